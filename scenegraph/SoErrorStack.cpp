@@ -1,0 +1,8 @@
+#include "scenegraph/SoErrorStack.h"
+
+template class SoErrorKind<SoErrorStack>;
+
+void SoErrorStack::initClass()
+{
+    registerType("ErrorStack");
+}

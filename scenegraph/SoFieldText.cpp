@@ -1,0 +1,194 @@
+#include "scenegraph/SoFieldText.h"
+
+#include "scenegraph/SoQuotedText.h"
+
+#include <Inventor/fields/SoMFColorRGBA.h>
+#include <Inventor/fields/SoMFEngine.h>
+#include <Inventor/fields/SoMFName.h>
+#include <Inventor/fields/SoMFNode.h>
+#include <Inventor/fields/SoMFString.h>
+#include <Inventor/fields/SoSFColorRGBA.h>
+#include <Inventor/fields/SoSFEngine.h>
+#include <Inventor/fields/SoSFImage.h>
+#include <Inventor/fields/SoSFName.h>
+#include <Inventor/fields/SoSFNode.h>
+#include <Inventor/fields/SoSFString.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+SoNode* const noNode = nullptr;
+SoEngine* const noEngine = nullptr;
+
+/** The field as one of class Field, or null. */
+template <class Field>
+Field* as(SoField* field)
+{
+    const bool is = field->isOfType(Field::getClassTypeId());
+    return is ? static_cast<Field*>(field) : nullptr;
+}
+
+/** Sets the value and answers true if Field is the field's class. */
+template <class Field, class Value>
+bool setIf(SoField* field, const Value& value)
+{
+    Field* typed = as<Field>(field);
+    if (typed)
+        typed->setValue(value);
+    return typed != nullptr;
+}
+
+template <class Field, class Value>
+bool set1If(SoMField* field, int row, const Value& value)
+{
+    Field* typed = as<Field>(field);
+    if (typed)
+        typed->set1Value(row, value);
+    return typed != nullptr;
+}
+
+/** All values of the field at once, with one notification. */
+template <class Value, class Field, class Source>
+void setAll(Field* field, const std::vector<Source>& values)
+{
+    const SbBool wasEnabled = field->enableNotify(FALSE);
+    field->setNum(int(values.size()));
+    for (size_t row = 0; row < values.size(); ++row)
+        field->set1Value(int(row), Value(values[row]));
+    field->enableNotify(wasEnabled);
+    field->touch();
+}
+
+bool isNull(const SbString& text)
+{
+    return text == "NULL";
+}
+
+bool setNull(SoField* field)
+{
+    return setIf<SoSFNode>(field, noNode) || setIf<SoSFEngine>(field, noEngine) ||
+           setIf<SoMFNode>(field, noNode) || setIf<SoMFEngine>(field, noEngine);
+}
+
+bool set1Null(SoMField* field, int row)
+{
+    return set1If<SoMFNode>(field, row, noNode) || set1If<SoMFEngine>(field, row, noEngine);
+}
+
+bool setString(SoField* field, const SbString& text)
+{
+    SbString value;
+    return SoQuotedText::read(text, value) &&
+           (setIf<SoSFString>(field, value) || setIf<SoSFName>(field, SbName(value)));
+}
+
+bool set1String(SoMField* field, int row, const SbString& text)
+{
+    SbString value;
+    return SoQuotedText::read(text, value) &&
+           (set1If<SoMFString>(field, row, value) || set1If<SoMFName>(field, row, SbName(value)));
+}
+
+bool setStrings(SoField* field, const SbString& text)
+{
+    auto* strings = as<SoMFString>(field);
+    auto* names = as<SoMFName>(field);
+    std::vector<SbString> values;
+    if ((!strings && !names) || !SoQuotedText::readAll(text, values))
+        return false;
+    if (strings)
+        setAll<SbString>(strings, values);
+    else
+        setAll<SbName>(names, values);
+    return true;
+}
+
+bool set1Color(SoMField* field, int row, const SbString& text)
+{
+    auto* colors = as<SoMFColorRGBA>(field);
+    if (!colors)
+        return false;
+    SoSFColorRGBA color;
+    const bool isColor = color.set(text.getString());
+    if (isColor)
+        colors->set1Value(row, color.getValue());
+    return isColor;
+}
+
+bool setColors(SoField* field, const SbString& text)
+{
+    auto* colors = as<SoMFColorRGBA>(field);
+    if (!colors)
+        return false;
+    std::string rows(text.getString());
+    if (rows.size() > 2 && rows.front() == '[' && rows.back() == ']')
+        rows = rows.substr(1, rows.size() - 2);
+    std::vector<SbColor4f> values;
+    std::istringstream stream(rows);
+    for (std::string row; std::getline(stream, row, ',');) {
+        SoSFColorRGBA color;
+        if (!color.set(row.c_str()))
+            return false;
+        values.push_back(color.getValue());
+    }
+    setAll<SbColor4f>(colors, values);
+    return true;
+}
+
+/** An image without pixels that says how many components one would have. */
+bool setEmptyImage(SoField* field, const SbString& text)
+{
+    auto* image = as<SoSFImage>(field);
+    if (!image)
+        return false;
+    std::istringstream stream(text.getString());
+    int width = -1;
+    int height = -1;
+    int components = -1;
+    stream >> width >> height >> components;
+    const bool isEmpty = width == 0 && height == 0 && components >= 0 && components <= 4;
+    if (isEmpty)
+        image->setValue(SbVec2s(0, 0), components, nullptr);
+    return isEmpty;
+}
+
+bool setExactly(SoField* field, const SbString& text)
+{
+    if (text[0] == '"' && setString(field, text))
+        return true;
+    if (isNull(text) && setNull(field))
+        return true;
+    return setStrings(field, text) || setColors(field, text) || setEmptyImage(field, text);
+}
+
+bool set1Exactly(SoMField* field, int row, const SbString& text)
+{
+    if (text[0] == '"')
+        return set1String(field, row, text);
+    if (isNull(text))
+        return set1Null(field, row);
+    return set1Color(field, row, text);
+}
+
+bool touchedUnless(SbBool taken, SoField* field)
+{
+    if (!taken)
+        field->touch();
+    return taken;
+}
+
+} // namespace
+
+SbBool SoFieldText::set(SoField* field, const SbString& text)
+{
+    return setExactly(field, text) || touchedUnless(field->set(text.getString()), field);
+}
+
+SbBool SoFieldText::set1(SoMField* field, int row, const SbString& text)
+{
+    return set1Exactly(field, row, text) ||
+           touchedUnless(field->set1(row, text.getString()), field);
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "TavrikSceneGraphExport.h"
+
+#include <Inventor/SbString.h>
+
+class SoField;
+class SoMField;
+
+/**
+ * Puts a text that SoField::get() or SoMField::get1() gave back into the field, without the losses
+ * of Coin's own reader: a string with a quotation mark before a line break, or a backslash at its
+ * end, comes back otherwise or not at all; a null node or engine and an image without pixels are
+ * refused; colours in a multiple-value field keep their old alpha.
+ *
+ * Any other text is the field's own to read. A text that it refuses may leave half a value without
+ * telling anybody, so the field is touched then: whoever shows it shows what is really there.
+ */
+class TAVRIKSCENEGRAPH_EXPORT SoFieldText
+{
+public:
+    /** FALSE when the field refused the text. */
+    static SbBool set(SoField* field, const SbString& text);
+    /** The same for one value; the row must exist (SoMFieldRows::set1() checks it). */
+    static SbBool set1(SoMField* field, int row, const SbString& text);
+};

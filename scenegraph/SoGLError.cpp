@@ -1,0 +1,8 @@
+#include "scenegraph/SoGLError.h"
+
+template class SoErrorKind<SoGLError>;
+
+void SoGLError::initClass()
+{
+    registerType("GLError");
+}

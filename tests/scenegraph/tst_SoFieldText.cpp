@@ -1,0 +1,162 @@
+#include "scenegraph/SoFieldText.h"
+
+#include "tests/scenegraph/Notifications.h"
+#include "tests/scenegraph/ReportLog.h"
+#include "tests/support/TestMain.h"
+
+#include <Inventor/SoPath.h>
+#include <Inventor/engines/SoCalculator.h>
+#include <Inventor/fields/SoFields.h>
+#include <Inventor/nodes/SoCone.h>
+
+namespace {
+
+SbString textOf(SoField& field)
+{
+    SbString text;
+    field.get(text);
+    return text;
+}
+
+} // namespace
+
+class tst_SoFieldText : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aNullNodeComesBack();
+    void aNullEngineComesBack();
+    void aNullPathComesBack();
+    void aNullRowOfNodesOrEnginesComesBack();
+    void coloursComeBackWithTheirAlpha();
+    void anEmptyImageComesBack();
+    void aRefusedTextTouchesTheField();
+    void aRefusedTextOfARowTouchesTheField();
+    void anAcceptedTextNotifiesOnce();
+    void aTextOfNumbersIsReadByTheField();
+};
+
+void tst_SoFieldText::aNullNodeComesBack()
+{
+    ReportLog log;
+    SoSFNode field;
+    const SbString text = textOf(field);
+    QCOMPARE(text.getString(), "NULL");
+    field.setValue(new SoCone);
+    QVERIFY(SoFieldText::set(&field, text));
+    QVERIFY(!field.getValue());
+    QCOMPARE(log.taken(), QStringList());
+}
+
+void tst_SoFieldText::aNullEngineComesBack()
+{
+    SoSFEngine field;
+    const SbString text = textOf(field);
+    field.setValue(new SoCalculator);
+    QVERIFY(SoFieldText::set(&field, text));
+    QVERIFY(!field.getValue());
+}
+
+void tst_SoFieldText::aNullPathComesBack()
+{
+    SoSFPath field;
+    const SbString text = textOf(field);
+    SoCone* cone = new SoCone;
+    field.setValue(new SoPath(cone));
+    QVERIFY(SoFieldText::set(&field, text));
+    QVERIFY(!field.getValue());
+}
+
+void tst_SoFieldText::aNullRowOfNodesOrEnginesComesBack()
+{
+    ReportLog log;
+    SoMFNode nodes;
+    nodes.set1Value(0, new SoCone);
+    nodes.set1Value(1, new SoCone);
+    QVERIFY(SoFieldText::set1(&nodes, 1, "NULL"));
+    QVERIFY(nodes[0] && !nodes[1]);
+    SoMFEngine engines;
+    engines.set1Value(0, new SoCalculator);
+    QVERIFY(SoFieldText::set1(&engines, 0, "NULL"));
+    QVERIFY(!engines[0]);
+    SoMFPath paths;
+    paths.set1Value(0, new SoPath(new SoCone));
+    QVERIFY(SoFieldText::set1(&paths, 0, "NULL"));
+    QVERIFY(!paths[0]);
+    QVERIFY(SoFieldText::set(&nodes, "NULL"));
+    QCOMPARE(nodes.getNum(), 1);
+    QVERIFY(!nodes[0]);
+    QCOMPARE(log.taken(), QStringList());
+}
+
+void tst_SoFieldText::coloursComeBackWithTheirAlpha()
+{
+    SoMFColorRGBA field;
+    QVERIFY(SoFieldText::set(&field, "[ 0 0 0 0.25,\n    1 1 1 0.5 ]"));
+    QCOMPARE(textOf(field).getString(), "[ 0 0 0 0.25,\n    1 1 1 0.5 ]");
+    QVERIFY(SoFieldText::set1(&field, 1, "1 1 1 0.75"));
+    QCOMPARE(field[1][3], 0.75f);
+    QVERIFY(SoFieldText::set(&field, "1 0 1 0"));
+    QCOMPARE(textOf(field).getString(), "1 0 1 0");
+    QVERIFY(SoFieldText::set(&field, "[  ]"));
+    QCOMPARE(field.getNum(), 0);
+}
+
+void tst_SoFieldText::anEmptyImageComesBack()
+{
+    ReportLog log;
+    SoSFImage field;
+    field.setValue(SbVec2s(0, 0), 1, nullptr);
+    const SbString text = textOf(field);
+    const unsigned char pixel = 7;
+    field.setValue(SbVec2s(1, 1), 1, &pixel);
+    QVERIFY(SoFieldText::set(&field, text));
+    QVERIFY(textOf(field) == text);
+    QVERIFY(SoFieldText::set(&field, "1 1 1\n0x7"));
+    QCOMPARE(textOf(field).getString(), "1 1 1\n0x7 ");
+    QCOMPARE(log.taken(), QStringList());
+}
+
+void tst_SoFieldText::aRefusedTextTouchesTheField()
+{
+    SoSFVec3f field;
+    field.setValue(1, 2, 3);
+    bool taken = true;
+    QCOMPARE(notificationsOf(field, [&] { taken = SoFieldText::set(&field, "4 5"); }), 1);
+    QVERIFY(!taken);
+}
+
+void tst_SoFieldText::aRefusedTextOfARowTouchesTheField()
+{
+    SoMFVec3f field;
+    field.set1Value(0, 1, 2, 3);
+    bool taken = true;
+    QCOMPARE(notificationsOf(field, [&] { taken = SoFieldText::set1(&field, 0, "4 5"); }), 1);
+    QVERIFY(!taken);
+}
+
+void tst_SoFieldText::anAcceptedTextNotifiesOnce()
+{
+    SoSFString string;
+    QCOMPARE(notificationsOf(string, [&] { SoFieldText::set(&string, "\"a\\\""); }), 1);
+    SoSFVec3f vector;
+    QCOMPARE(notificationsOf(vector, [&] { SoFieldText::set(&vector, "1 2 3"); }), 1);
+    SoMFString strings;
+    strings.setNum(1);
+    QCOMPARE(notificationsOf(strings, [&] { SoFieldText::set1(&strings, 0, "\"a\\\""); }), 1);
+}
+
+void tst_SoFieldText::aTextOfNumbersIsReadByTheField()
+{
+    SoSFVec3f field;
+    QVERIFY(SoFieldText::set(&field, "1 2.5 3"));
+    QCOMPARE(textOf(field).getString(), "1 2.5 3");
+    SoMFFloat floats;
+    QVERIFY(SoFieldText::set(&floats, "[ 1, 2 ]"));
+    QVERIFY(SoFieldText::set1(&floats, 1, "7"));
+    QCOMPARE(floats[1], 7.0f);
+}
+
+TAVRIK_TEST_MAIN(tst_SoFieldText)
+#include "tst_SoFieldText.moc"

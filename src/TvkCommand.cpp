@@ -1,0 +1,3 @@
+#include "TvkCommand.h"
+
+TvkCommand::~TvkCommand() = default;

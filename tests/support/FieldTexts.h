@@ -1,0 +1,28 @@
+#pragma once
+
+#include <Inventor/SbString.h>
+#include <Inventor/fields/SoMField.h>
+
+#include <QByteArray>
+#include <QList>
+
+/** A field's value as its text, in one line: the lists of multiple values are written in several.
+ */
+inline QByteArray textOf(SoField& field)
+{
+    SbString text;
+    field.get(text);
+    return QByteArray(text.getString(), text.getLength()).simplified();
+}
+
+/** The texts of a multiple-value field's rows, byte for byte. */
+inline QList<QByteArray> rowTextsOf(SoMField& field)
+{
+    QList<QByteArray> texts;
+    for (int row = 0; row < field.getNum(); ++row) {
+        SbString text;
+        field.get1(row, text);
+        texts << QByteArray(text.getString(), text.getLength());
+    }
+    return texts;
+}

@@ -1,0 +1,50 @@
+#include "FieldEditors/DvLineEdit.h"
+
+#include <QKeyEvent>
+
+#include <limits>
+
+DvLineEdit::DvLineEdit(const char* objectName, QWidget* parent) : QLineEdit(parent)
+{
+    setObjectName(QLatin1String(objectName));
+    // Qt's limit of 32767 characters would cut a longer value, and a commit would lose the rest.
+    setMaxLength(std::numeric_limits<int>::max());
+}
+
+void DvLineEdit::showText(const QString& text)
+{
+    m_shownText = text;
+    setText(text);
+    setCursorPosition(0);
+}
+
+bool DvLineEdit::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && !isModified()) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
+void DvLineEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && !showsFieldValue()) {
+        emit revertRequested();
+        event->accept();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void DvLineEdit::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    const bool staysInWindow =
+        event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
+    if (staysInWindow && isModified() && !hasAcceptableInput())
+        emit revertRequested();
+}

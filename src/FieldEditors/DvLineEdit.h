@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLineEdit>
+
+/**
+ * The line of a field editor. It takes texts of any length; it leaves undo and redo to the host
+ * while nothing has been typed into it; Escape, and leaving it with a text that its validator does
+ * not accept, ask the editor to show the field's value again.
+ */
+class DvLineEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    DvLineEdit(const char* objectName, QWidget* parent);
+
+    /** Shows a text from its start, as the field's: not modified. */
+    void showText(const QString& text);
+    /** The text last shown by showText(). */
+    const QString& shownText() const { return m_shownText; }
+    /** Whether the line still holds what was last shown, untouched by the user. */
+    bool showsFieldValue() const { return !isModified() && text() == m_shownText; }
+
+signals:
+    void revertRequested();
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    QString m_shownText;
+};

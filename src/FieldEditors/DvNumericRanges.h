@@ -1,0 +1,20 @@
+#pragma once
+
+/**
+ * The range that a numeric editor's slider starts with, by node and field name.
+ */
+class DvNumericRanges
+{
+public:
+    struct Range
+    {
+        double minimum = 0.0;
+        double maximum = 0.0;
+        char kind = 'd';      ///< 'f' single precision, 'd' double precision, 'i' integer
+        bool bounded = false; ///< strict; else it grows to take in any value entered or found
+    };
+    static constexpr int rowCount = 7;
+
+    /** The row of a node and field name; null when the table has none. */
+    static const Range* find(const char* node, const char* field);
+};

@@ -1,0 +1,52 @@
+#include "FieldEditors/DvRealValidator.h"
+
+#include <QLocale>
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace {
+
+constexpr double s_largestFloat = 3.4028234663852886e+38;
+constexpr int s_floatDecimals = 6;
+
+/** Whether three digits follow the comma and a group of thousands could stand before it. */
+bool couldBeThousands(const QString& text)
+{
+    static const QRegularExpression s_groups(
+        QStringLiteral("^[+-]?[1-9][0-9]{0,2},[0-9]{3}(?![0-9])"));
+    return s_groups.match(text).hasMatch();
+}
+
+QString withDecimalPoint(const QString& text)
+{
+    const int comma = text.indexOf(QLatin1Char(','));
+    if (comma < 0 || text.count(QLatin1Char(',')) > 1 || text.contains(QLatin1Char('.')))
+        return text;
+    return couldBeThousands(text) ? text : QString(text).replace(comma, 1, QLatin1Char('.'));
+}
+
+} // namespace
+
+DvRealValidator::DvRealValidator(QObject* parent)
+    : DvRealValidator(-s_largestFloat, s_largestFloat, s_floatDecimals, parent)
+{}
+
+DvRealValidator::DvRealValidator(double bottom, double top, int decimals, QObject* parent)
+    : QDoubleValidator(bottom, top, decimals, parent)
+{
+    QLocale locale = QLocale::c();
+    locale.setNumberOptions(QLocale::RejectGroupSeparator | QLocale::OmitGroupSeparator);
+    setLocale(locale);
+}
+
+QValidator::State DvRealValidator::validate(QString& text, int& position) const
+{
+    text = withDecimalPoint(text);
+    const State state = QDoubleValidator::validate(text, position);
+    if (!m_clamped || state != Intermediate)
+        return state;
+    bool parsed = false;
+    const double number = text.toDouble(&parsed);
+    return parsed || std::isinf(number) ? Acceptable : Intermediate;
+}

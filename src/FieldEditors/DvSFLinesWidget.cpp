@@ -1,0 +1,76 @@
+#include "FieldEditors/DvSFLinesWidget.h"
+
+#include "FieldEditors/DvFieldText.h"
+#include "FieldEditors/DvLayoutConstants.h"
+#include "FieldEditors/DvLineEdit.h"
+#include "FieldEditors/DvRealValidator.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QTextDocumentFragment>
+
+#include <algorithm>
+
+DvSFLinesWidget::DvSFLinesWidget(const QString& objectName, const DvLinesForm& form)
+    : DvSFieldWidget(objectName), m_form(form)
+{}
+
+DvSFLinesWidget::~DvSFLinesWidget() = default;
+
+void DvSFLinesWidget::buildEditor(QHBoxLayout& editLayout)
+{
+    auto* const grid = new QGridLayout;
+    grid->setObjectName(QLatin1String(m_form.layoutName));
+    const int margin = DvLayoutConstants::value(m_form.margin);
+    grid->setContentsMargins(margin, margin, margin, margin);
+    grid->setVerticalSpacing(DvLayoutConstants::value(m_form.verticalSpacing));
+    grid->setHorizontalSpacing(DvLayoutConstants::value(m_form.horizontalSpacing));
+    grid->setColumnStretch(1, 1);
+    editLayout.addLayout(grid);
+    for (int row = 0; row < static_cast<int>(m_form.labels.size()); ++row)
+        buildRow(*grid, row);
+}
+
+void DvSFLinesWidget::buildRow(QGridLayout& grid, int row)
+{
+    auto* const label = new QLabel(QLatin1String(m_form.labels[static_cast<std::size_t>(row)]));
+    label->setObjectName(QLatin1String(m_form.labelName));
+    label->setMinimumHeight(DvLayoutConstants::value("SFVecLabelHeight"));
+    grid.addWidget(label, row, 0);
+
+    auto* const line = new DvLineEdit(m_form.lineName, frame());
+    // A minimum, so that nothing is cut off at a larger font.
+    line->setMinimumHeight(DvLayoutConstants::value("SFVecLineHeight"));
+    line->setValidator(new DvRealValidator(line));
+    line->setAccessibleName(QTextDocumentFragment::fromHtml(label->text()).toPlainText());
+    label->setBuddy(line);
+    grid.addWidget(line, row, 1);
+    connect(line, SIGNAL(editingFinished()), this, SLOT(setFocusLeaveEvent()));
+    connect(line, SIGNAL(returnPressed()), this, SLOT(setCommandValue()));
+    connect(line, SIGNAL(revertRequested()), this, SLOT(revertPendingEdit()));
+    m_lines.push_back(line);
+}
+
+bool DvSFLinesWidget::hasPendingEdit() const
+{
+    return std::any_of(m_lines.begin(), m_lines.end(),
+                       [](const DvLineEdit* line) { return line->isModified(); });
+}
+
+void DvSFLinesWidget::clearPendingEdit()
+{
+    for (DvLineEdit* line : m_lines)
+        line->setModified(false);
+}
+
+void DvSFLinesWidget::showNumber(std::size_t index, double number)
+{
+    m_lines[index]->showText(DvFieldText::fromReal(number));
+}
+
+double DvSFLinesWidget::number(std::size_t index, double component) const
+{
+    const DvLineEdit& line = *m_lines[index];
+    return line.showsFieldValue() ? component
+                                  : static_cast<double>(DvFieldText::toFloat(line.text()));
+}

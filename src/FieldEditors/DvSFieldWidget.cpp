@@ -1,0 +1,229 @@
+#include "FieldEditors/DvSFieldWidget.h"
+
+#include "FieldEditors/DvButtonIcons.h"
+#include "FieldEditors/DvDefaultValue.h"
+#include "FieldEditors/DvLayoutConstants.h"
+#include "FieldEditors/TvkFieldIgnoredCommand.h"
+#include "FieldEditors/TvkSFSetValueCommand.h"
+
+#include <TvkServices.h>
+
+#include <Inventor/fields/SoField.h>
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+namespace {
+
+int constant(const char* name)
+{
+    return DvLayoutConstants::value(name);
+}
+
+QHBoxLayout* newRow(const char* objectName, const char* margin, const char* spacing)
+{
+    auto* const row = new QHBoxLayout;
+    const int width = constant(margin);
+    row->setObjectName(QLatin1String(objectName));
+    row->setContentsMargins(width, width, width, width);
+    row->setSpacing(constant(spacing));
+    return row;
+}
+
+QPushButton* newButton(const char* objectName, const QIcon& icon, QWidget* parent)
+{
+    auto* const button = new QPushButton(parent);
+    button->setObjectName(QLatin1String(objectName));
+    button->setMaximumSize(constant("buttonWidth"), constant("buttonHeight"));
+    button->setIcon(icon);
+    button->setFocusPolicy(Qt::NoFocus);
+    return button;
+}
+
+} // namespace
+
+DvSFieldWidget::DvSFieldWidget(const QString& objectName)
+{
+    setObjectName(objectName);
+    m_name = objectName.toUtf8().constData();
+    frame()->setObjectName(objectName);
+}
+
+DvSFieldWidget::~DvSFieldWidget()
+{
+    // While the slots of this class can still be called.
+    deleteFrame();
+}
+
+void DvSFieldWidget::createWidgets()
+{
+    TvkFieldEditors::createWidgets();
+    if (!frame() || frame()->layout())
+        return;
+    frame()->setFrameShape(QFrame::StyledPanel);
+    frame()->setFrameShadow(QFrame::Plain);
+    frame()->setLineWidth(constant("frameLineWidth"));
+    QHBoxLayout* const layout = newRow("SFieldLayout", "SFieldLayoutMargin", "SFieldLayoutSpacing");
+    frame()->setLayout(layout);
+    buildLabel(*layout);
+    buildEditionArea(*layout);
+    buildButtons(*layout);
+    layout->setSizeConstraint(QLayout::SetMinimumSize);
+    languageChange();
+    connect(frame(), SIGNAL(languageChanged()), this, SLOT(languageChange()));
+}
+
+QLabel* DvSFieldWidget::label()
+{
+    if (!m_label)
+        m_label = new QLabel(frame());
+    return m_label;
+}
+
+void DvSFieldWidget::buildLabel(QBoxLayout& layout)
+{
+    label()->setObjectName(QStringLiteral("m_label"));
+    QFont font = label()->font();
+    font.setPointSize(constant("labelPointSize"));
+    label()->setFont(font);
+    label()->setFrameShape(QFrame::Box);
+    label()->setFrameShadow(QFrame::Plain);
+    label()->setLineWidth(constant("labelLineWidth"));
+    label()->setScaledContents(true);
+    if (label()->text().isEmpty()) {
+        const QString type = QLatin1String(getHandledType().getName().getString());
+        label()->setText(QStringLiteral("<p align=\"center\">%1</p>").arg(type));
+    }
+    layout.addWidget(label());
+    layout.addSpacerItem(new QSpacerItem(0, 0, QSizePolicy::Minimum));
+}
+
+void DvSFieldWidget::buildEditionArea(QBoxLayout& layout)
+{
+    QHBoxLayout* const area =
+        newRow("SFieldEditionAreaLayout", "SFEditionAreaLayMargin", "SFEditionAreaLaySpacing");
+    auto* const editionFrame = new QFrame(frame());
+    editionFrame->setObjectName(QStringLiteral("m_editionFrame"));
+    editionFrame->setFrameShape(QFrame::Box);
+    editionFrame->setFrameShadow(QFrame::Plain);
+    editionFrame->setLineWidth(constant("frameLineWidth"));
+    QHBoxLayout* const editLayout =
+        newRow("editLayout", "SFieldEditLayoutMargin", "SFieldEditLayoutSpacing");
+    editionFrame->setLayout(editLayout);
+    buildEditor(*editLayout);
+    area->addWidget(editionFrame);
+    layout.addLayout(area, 1);
+}
+
+void DvSFieldWidget::buildButtons(QBoxLayout& layout)
+{
+    // Kept on purpose: this layout has the same object name as the one that it stands in.
+    QHBoxLayout* const buttons =
+        newRow("SFieldLayout", "SFButtonLayoutMargin", "SFButtonLayoutSpacing");
+    m_defaultButton = newButton("m_defaultButton", DvButtonIcons::setToDefault(), frame());
+    m_ignoreButton = newButton("m_ignoreButton", DvButtonIcons::ignore(), frame());
+    m_ignoreButton->setCheckable(true);
+    buttons->addWidget(m_defaultButton);
+    buttons->addWidget(m_ignoreButton);
+    layout.addLayout(buttons);
+    connect(m_defaultButton, SIGNAL(clicked()), this, SLOT(setDefaultFieldValue()));
+    connect(m_ignoreButton, SIGNAL(released()), this, SLOT(ignoreButtonStateChanged()));
+}
+
+void DvSFieldWidget::languageChange()
+{
+    if (!m_defaultButton)
+        return;
+    m_defaultButton->setText(QString());
+    m_ignoreButton->setText(QString());
+    m_defaultButton->setToolTip(tr("Set to default"));
+    m_ignoreButton->setToolTip(tr("Ignore this field"));
+    m_defaultButton->setAccessibleName(m_defaultButton->toolTip());
+    m_ignoreButton->setAccessibleName(m_ignoreButton->toolTip());
+}
+
+void DvSFieldWidget::setField(SoField* field)
+{
+    if (!frame()) {
+        // Whoever held the frame has deleted it, and the type's widgets with it.
+        m_field = nullptr;
+        return;
+    }
+    if (m_field && isFieldDying())
+        clearPendingEdit();
+    else
+        setFocusLeaveEvent();
+    if (m_field)
+        fieldReleased();
+    m_field = field;
+    TvkFieldEditors::setField(field);
+    if (m_field)
+        fieldReplaced();
+}
+
+void DvSFieldWidget::refresh()
+{
+    if (!m_field || !m_ignoreButton)
+        return;
+    m_ignoreButton->setChecked(m_field->isIgnored());
+}
+
+void DvSFieldWidget::pushSetValue(SbString previousText)
+{
+    if (TvkServices* const services = TvkServices::getInstance())
+        services->pushCommand(new TvkSFSetValueCommand(m_field, previousText));
+}
+
+void DvSFieldWidget::setCommandValue()
+{
+    applyChanges();
+}
+
+void DvSFieldWidget::setFocusLeaveEvent()
+{
+    if (hasPendingEdit())
+        applyChanges();
+}
+
+void DvSFieldWidget::revertPendingEdit()
+{
+    clearPendingEdit();
+    refresh();
+}
+
+void DvSFieldWidget::ignoreButtonStateChanged()
+{
+    if (!m_field)
+        return;
+    const bool checked = m_ignoreButton->isChecked();
+    // A press that is dragged off the button is released too, without a toggle: an entry for it
+    // would turn the flag round when undone.
+    if (m_field->isIgnored() == static_cast<SbBool>(checked))
+        return;
+    m_field->setIgnored(checked);
+    if (TvkServices* const services = TvkServices::getInstance())
+        services->pushCommand(new TvkFieldIgnoredCommand(m_field, checked));
+}
+
+void DvSFieldWidget::setDefaultFieldValue()
+{
+    if (!m_field)
+        return;
+    clearPendingEdit();
+    DvDefaultValue::restore(*m_field);
+}
+
+// What a type without a need of its own leaves as it is.
+void DvSFieldWidget::buildEditor(QHBoxLayout&) {}
+void DvSFieldWidget::fieldReplaced() {}
+void DvSFieldWidget::fieldReleased() {}
+void DvSFieldWidget::applyChanges(const QString&) {}
+void DvSFieldWidget::clearPendingEdit() {}
+void DvSFieldWidget::applyChanges() {}
+
+bool DvSFieldWidget::hasPendingEdit() const
+{
+    return false;
+}

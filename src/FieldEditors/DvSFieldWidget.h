@@ -1,0 +1,90 @@
+#pragma once
+
+#include "FieldEditors/TvkFieldEditors.h"
+
+#include <Inventor/SbString.h>
+
+class QBoxLayout;
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+
+/**
+ * The base of the single-value editors: a label, an edition area that each type fills, a button
+ * that sets the field to its default and one that switches its ignore flag.
+ *
+ * A type supplies buildEditor(), refresh(), applyChanges() and hasPendingEdit(); see
+ * DvSFNumbersWidget for the family that most of them belong to.
+ */
+class DvSFieldWidget : public TvkFieldEditors
+{
+    Q_OBJECT
+
+public:
+    explicit DvSFieldWidget(const QString& objectName = QStringLiteral("DvSFieldWidget"));
+    ~DvSFieldWidget() override;
+
+    /** Builds the widget tree once; later calls, after releaseWidgets(), renew the sensor only. */
+    void createWidgets() override;
+    /** Commits what is being typed into the former field, then takes the new one. */
+    void setField(SoField* field) override;
+    /** A type's override writes its own widgets first, then calls this for the ignore button. */
+    void refresh() override;
+
+protected:
+    // What a type fills in.
+    /** Puts the type's widgets into "editLayout" and connects them. Called once. */
+    virtual void buildEditor(QHBoxLayout& editLayout);
+    /** Another field, not null, has been set: ranges and lists of choices follow it. */
+    virtual void fieldReplaced();
+    /** The field has been taken away or has died: pop-ups and dialogs close. */
+    virtual void fieldReleased();
+
+public slots:
+    /** A text while it is being typed, for the types that apply it at once. */
+    virtual void applyChanges(const QString& text);
+
+protected:
+    /** Forgets that something was typed; the text stays until the next refresh. */
+    virtual void clearPendingEdit();
+
+public slots:
+    /** Commits the widgets' value: writes the field, then hands the command to the host. */
+    virtual void applyChanges();
+
+public:
+    /** Whether the user has typed something that is not committed. */
+    virtual bool hasPendingEdit() const;
+
+public slots:
+    virtual void languageChange();
+    virtual void setCommandValue();
+    virtual void setDefaultFieldValue();
+    void setFocusLeaveEvent();
+    void ignoreButtonStateChanged();
+    /** Shows the field's value again in place of what was being typed. */
+    void revertPendingEdit();
+
+protected:
+    SoField* field() const { return m_field; }
+    /** The field as its type; null where there is none. */
+    template <class Field>
+    Field* fieldAs() const
+    {
+        return static_cast<Field*>(m_field);
+    }
+    /** The type's label; made on first need, so that a type can give it another text. */
+    QLabel* label();
+    /** Hands the set-value command to the host; the field must hold the new value already. */
+    void pushSetValue(SbString previousText = SbString());
+
+private:
+    void buildLabel(QBoxLayout& layout);
+    void buildEditionArea(QBoxLayout& layout);
+    void buildButtons(QBoxLayout& layout);
+
+    QLabel* m_label = nullptr;
+    SoField* m_field = nullptr; ///< not owned
+    QPushButton* m_defaultButton = nullptr;
+    QPushButton* m_ignoreButton = nullptr;
+};

@@ -1,0 +1,31 @@
+#include "FieldEditors/TvkFieldSetDefaultCommand.h"
+
+#include "scenegraph/SoFieldText.h"
+
+#include <Inventor/fields/SoMField.h>
+
+TvkFieldSetDefaultCommand::TvkFieldSetDefaultCommand(SoField* field, SoField* defaultField)
+    : TvkCommand(field), m_field(field),
+      m_isMultiple(field->isOfType(SoMField::getClassTypeId()) != FALSE)
+{
+    m_field->get(m_previousValue);
+    defaultField->get(m_defaultValue);
+}
+
+void TvkFieldSetDefaultCommand::execute()
+{
+    // Writing a text makes Coin take the field for changed; a field at its default is one that the
+    // lists show as such and that scene files leave out.
+    if (SoFieldText::set(m_field, m_defaultValue))
+        m_field->setDefault(TRUE);
+}
+
+void TvkFieldSetDefaultCommand::undo()
+{
+    SoFieldText::set(m_field, m_previousValue);
+}
+
+void TvkFieldSetDefaultCommand::redo()
+{
+    execute();
+}

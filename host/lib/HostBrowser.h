@@ -1,0 +1,61 @@
+#pragma once
+
+#include "TavrikHostExport.h"
+
+#include "lib/HostFieldModel.h"
+#include "lib/HostSceneModel.h"
+
+#include <QObject>
+
+class HostServices;
+class QTableView;
+class QTreeView;
+class SoField;
+class SoFieldContainer;
+class SoNode;
+class SoPath;
+
+/** The scene tree and the list of the selected node's fields, tied to the host's selection. */
+class TAVRIKHOST_EXPORT HostBrowser : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** The services are not owned. */
+    explicit HostBrowser(HostServices& services);
+    ~HostBrowser() override;
+
+    /** The two views, made without parent; whoever puts them into a window owns them. */
+    QTreeView* sceneView() const { return m_sceneView; }
+    QTableView* fieldView() const { return m_fieldView; }
+    HostSceneModel& sceneModel() { return m_sceneModel; }
+
+    /** Shows another scene, nothing of it selected; null shows none. */
+    void setRoot(SoNode* root);
+
+public slots:
+    /** Selects the node at the path's end, or the nearest above it that the tree shows, and brings
+     *  its row into view; null selects nothing. */
+    void selectPath(const SoPath* path);
+
+signals:
+    /** What is selected in the tree now; null when nothing is. Only valid during the call. */
+    void nodeSelected(const SoPath* path);
+
+private slots:
+    void s_treeSelectionChanged();
+    void s_fieldSelectionChanged();
+    void s_selectedNodeChanged(SoFieldContainer* node);
+    void s_selectedFieldChanged(SoField* field);
+
+private:
+    void buildSceneView();
+    void buildFieldView();
+
+    HostServices& m_services;
+    HostSceneModel m_sceneModel;
+    HostFieldModel m_fieldModel;
+    QTreeView* const m_sceneView;  ///< not owned
+    QTableView* const m_fieldView; ///< not owned
+    bool m_following = false;      ///< the views follow the host's selection, not the user
+};

@@ -1,0 +1,6 @@
+#include "lib/HostSettings.h"
+
+HostSettings::HostSettings()
+    : QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Tavrik"),
+                QStringLiteral("tavrik"))
+{}

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <type_traits>
 #include <vector>
 
 class QLayout;
@@ -33,7 +34,7 @@ private:
     template <class Twin, class Value>
     void copyValue(Twin* twin, void (Twin::*set)(Value), const std::decay_t<Value>& value);
 
-    std::unique_ptr<QWidget> m_widget;
     std::vector<std::function<void()>> m_show;
     std::vector<std::function<void()>> m_clear;
+    std::unique_ptr<QWidget> m_widget; ///< last: its making fills the lists
 };

@@ -32,19 +32,15 @@ AppArguments AppArguments::parse(const QStringList& arguments)
     parser.addOption(tour);
     parser.addPositionalArgument(QStringLiteral("scene"), QStringLiteral("The file to open."),
                                  QStringLiteral("[scene]"));
-    if (!parser.parse(arguments)) {
+    if (!parser.parse(arguments))
         return answer(Refuse, parser.errorText());
-    }
-    if (parser.isSet(help)) {
+    if (parser.isSet(help))
         return answer(PrintHelp, parser.helpText());
-    }
-    if (parser.isSet(version)) {
+    if (parser.isSet(version))
         return answer(PrintVersion, QStringLiteral("tavrik " TAVRIK_VERSION));
-    }
     const QStringList scenes = parser.positionalArguments();
-    if (scenes.size() > 1) {
+    if (scenes.size() > 1)
         return answer(Refuse, QStringLiteral("One scene at a time, please."));
-    }
     AppArguments result;
     result.scene = scenes.value(0);
     result.tourFolder = parser.value(tour);

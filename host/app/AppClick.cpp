@@ -10,13 +10,11 @@ constexpr int Tremble = 3;
 bool AppClick::completedBy(const QEvent& event)
 {
     const auto type = event.type();
-    if (type == QEvent::MouseButtonDblClick) {
+    if (type == QEvent::MouseButtonDblClick)
         m_possible = false;
-    }
     if (type != QEvent::MouseButtonPress && type != QEvent::MouseMove &&
-        type != QEvent::MouseButtonRelease) {
+        type != QEvent::MouseButtonRelease)
         return false;
-    }
     const auto& mouse = static_cast<const QMouseEvent&>(event);
     if (type == QEvent::MouseButtonPress) {
         m_pressed = mouse.pos();

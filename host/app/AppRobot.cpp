@@ -48,9 +48,8 @@ bool AppRobot::waitUntil(const std::function<bool()>& condition, int millisecond
     QElapsedTimer timer;
     timer.start();
     while (!condition()) {
-        if (timer.hasExpired(milliseconds)) {
+        if (timer.hasExpired(milliseconds))
             return false;
-        }
         wait(50);
     }
     return true;
@@ -58,9 +57,8 @@ bool AppRobot::waitUntil(const std::function<bool()>& condition, int millisecond
 
 void AppRobot::click(QWidget& widget, const QPoint& position)
 {
-    if (widget.focusPolicy() & Qt::ClickFocus) {
+    if (widget.focusPolicy() & Qt::ClickFocus)
         widget.setFocus(Qt::MouseFocusReason);
-    }
     sendMouse(widget, QEvent::MouseButtonPress, position);
     wait(30);
     sendMouse(widget, QEvent::MouseButtonRelease, position);
@@ -100,11 +98,9 @@ bool AppRobot::isDrawn(const QImage& picture)
 {
     const QRect area = picture.rect();
     for (const QPoint& corner :
-         {area.topLeft(), area.topRight(), area.bottomLeft(), area.bottomRight()}) {
-        if (picture.pixel(corner) == qRgb(0, 0, 0)) {
+         {area.topLeft(), area.topRight(), area.bottomLeft(), area.bottomRight()})
+        if (picture.pixel(corner) == qRgb(0, 0, 0))
             return false;
-        }
-    }
     QImage plain(picture.size(), picture.format());
     plain.fill(picture.pixel(0, 0));
     return differ(picture, plain);
@@ -112,14 +108,11 @@ bool AppRobot::isDrawn(const QImage& picture)
 
 bool AppRobot::differ(const QImage& one, const QImage& other)
 {
-    if (one.size() != other.size()) {
+    if (one.size() != other.size())
         return true;
-    }
     int different = 0;
-    for (int y = 0; y < one.height() && different <= FewPixels; ++y) {
-        for (int x = 0; x < one.width(); ++x) {
+    for (int y = 0; y < one.height() && different <= FewPixels; ++y)
+        for (int x = 0; x < one.width(); ++x)
             different += one.pixel(x, y) != other.pixel(x, y);
-        }
-    }
     return different > FewPixels;
 }

@@ -17,19 +17,19 @@
 
 namespace {
 
-const SbColor Background(0.22f, 0.24f, 0.28f);
+const SbColor Background(0.22F, 0.24F, 0.28F);
 constexpr int RedrawsAfterExposure = 4;
 constexpr int RedrawInterval = 120; // milliseconds
 
 /** From the front, a little from the right and from above: most things show their shape so. */
 const SbRotation FirstLook =
-    SbRotation(SbVec3f(1, 0, 0), -0.4f) * SbRotation(SbVec3f(0, 1, 0), 0.4f);
+    SbRotation(SbVec3f(1, 0, 0), -0.4F) * SbRotation(SbVec3f(0, 1, 0), 0.4F);
 
 /** The marker's box stands out from the scene, which the viewer clips as close as it can. */
 SbVec2f makeRoomForMarker(void*, const SbVec2f& nearFar)
 {
-    const float room = 0.25f * (nearFar[1] - nearFar[0]);
-    return {std::max(nearFar[0] - room, 0.1f * nearFar[0]), nearFar[1] + room};
+    const float room = 0.25F * (nearFar[1] - nearFar[0]);
+    return {std::max(nearFar[0] - room, 0.1F * nearFar[0]), nearFar[1] + room};
 }
 
 /** The view's own camera stands above the scene, one of the scene's own inside it. */
@@ -56,7 +56,7 @@ AppSceneView::AppSceneView(QWidget* parent) : QWidget(parent), m_top(new SoSepar
     m_viewer->setHeadlight(TRUE);
     m_viewer->setBackgroundColor(Background);
     m_viewer->setTransparencyType(SoGLRenderAction::SORTED_OBJECT_BLEND);
-    m_viewer->setAutoClippingStrategy(SoQtViewer::VARIABLE_NEAR_PLANE, 0.6f, makeRoomForMarker);
+    m_viewer->setAutoClippingStrategy(SoQtViewer::VARIABLE_NEAR_PLANE, 0.6F, makeRoomForMarker);
     m_viewer->setEventCallback(&AppSceneView::seeEvent, this);
     m_viewer->setSceneGraph(m_top);
     connect(&m_redrawTimer, SIGNAL(timeout()), SLOT(redraw()));
@@ -87,13 +87,11 @@ void AppSceneView::setScene(SoNode* root)
     m_viewer->setSceneGraph(nullptr);
     m_top->removeAllChildren();
     m_root = root;
-    if (root) {
+    if (root)
         m_top->addChild(root);
-    }
     m_viewer->setSceneGraph(m_top);
-    if (!root) {
+    if (!root)
         return;
-    }
     SoCamera* camera = m_viewer->getCamera();
     if (isInside(camera, m_top)) {
         // What the scene's author shows is kept; the marker stands outside the scene and has to be
@@ -115,9 +113,8 @@ void AppSceneView::mark(const SoPath* path)
 void AppSceneView::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    if (QWindow* window = canvas()->windowHandle()) {
+    if (QWindow* window = canvas()->windowHandle())
         window->installEventFilter(this);
-    }
 }
 
 /**
@@ -136,17 +133,15 @@ bool AppSceneView::eventFilter(QObject* watched, QEvent* event)
 void AppSceneView::redraw()
 {
     m_viewer->scheduleRedraw();
-    if (--m_redrawsLeft <= 0) {
+    if (--m_redrawsLeft <= 0)
         m_redrawTimer.stop();
-    }
 }
 
 SbBool AppSceneView::seeEvent(void* view, QEvent* event)
 {
     auto* self = static_cast<AppSceneView*>(view);
-    if (self->m_click.completedBy(*event)) {
+    if (self->m_click.completedBy(*event))
         self->pick(self->m_click.position());
-    }
     return FALSE; // the viewer sees every event, too
 }
 

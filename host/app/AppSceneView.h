@@ -4,6 +4,8 @@
 
 #include "lib/HostMarker.h"
 
+#include <Inventor/SbBasic.h>
+
 #include <QTimer>
 #include <QWidget>
 

@@ -22,35 +22,33 @@
 namespace {
 
 /** A part of the scene's size by which something is moved: seen, and still in the picture. */
-constexpr float Step = 0.15f;
+constexpr float Step = 0.15F;
 
 float sizeOf(const HostScene& scene)
 {
     SoGetBoundingBoxAction action(SbViewportRegion(100, 100));
     action.apply(scene.root());
-    float x = 0, y = 0, z = 0;
+    float x = 0;
+    float y = 0;
+    float z = 0;
     action.getBoundingBox().getSize(x, y, z);
-    return std::max({x, y, z, 1.0f});
+    return std::max({x, y, z, 1.0F});
 }
 
 bool isBelow(const SoPath& path, const char* name)
 {
-    for (int i = 0; i < path.getLength(); ++i) {
-        if (path.getNode(i)->getName() == name) {
+    for (int i = 0; i < path.getLength(); ++i)
+        if (path.getNode(i)->getName() == name)
             return true;
-        }
-    }
     return false;
 }
 
 template <class Widget>
 Widget* visibleChild(const QWidget& window, const char* name)
 {
-    for (Widget* widget : window.findChildren<Widget*>(QLatin1String(name))) {
-        if (widget->isVisible()) {
+    for (Widget* widget : window.findChildren<Widget*>(QLatin1String(name)))
+        if (widget->isVisible())
             return widget;
-        }
-    }
     return nullptr;
 }
 
@@ -60,9 +58,8 @@ AppTour::AppTour(AppWindow& window, const QString& folder) : m_window(window), m
 
 bool AppTour::run()
 {
-    if (!m_folder.mkpath(QStringLiteral("."))) {
+    if (!m_folder.mkpath(QStringLiteral(".")))
         return fail(QStringLiteral("the folder %1 cannot be made").arg(m_folder.path()));
-    }
     const bool passed =
         waitForScene() && editVector() && undoEdit() && ignoreField() && undoIgnore();
     if (passed) {
@@ -79,22 +76,19 @@ bool AppTour::waitForScene()
         m_window.activateWindow(); // a busy window manager may have missed the first request
         return m_window.isActiveWindow() && AppRobot::isDrawn(AppRobot::picture(m_window.view()));
     };
-    if (!AppRobot::waitUntil(isDrawn, 30000)) {
+    if (!AppRobot::waitUntil(isDrawn, 30000))
         return fail(QStringLiteral("the scene was not drawn"));
-    }
     AppRobot::wait(300);
     return take("scene");
 }
 
 bool AppTour::editVector()
 {
-    if (!select({{"Transform", "translation"}, {"Translation", "translation"}})) {
+    if (!select({{"Transform", "translation"}, {"Translation", "translation"}}))
         return false;
-    }
     QLineEdit* line = vectorLine();
-    if (!line) {
+    if (!line)
         return fail(QStringLiteral("no line to type a vector into"));
-    }
     AppRobot::click(*line);
     AppRobot::press(Qt::Key_A, Qt::ControlModifier);
     const float value = line->text().toFloat() + Step * sizeOf(m_window.scene());
@@ -112,13 +106,11 @@ bool AppTour::undoEdit()
 
 bool AppTour::ignoreField()
 {
-    if (!select({{"Complexity", "value"}, {"DrawStyle", "style"}})) {
+    if (!select({{"Complexity", "value"}, {"DrawStyle", "style"}}))
         return false;
-    }
     QPushButton* button = ignoreButton();
-    if (!button) {
+    if (!button)
         return fail(QStringLiteral("no button to ignore the field"));
-    }
     AppRobot::click(*button);
     return expectChange("ignoring a field") && take("field-ignored");
 }
@@ -132,11 +124,9 @@ bool AppTour::undoIgnore()
 /** The first of these fields whose node is in the scene. */
 bool AppTour::select(const QVector<Target>& targets)
 {
-    for (const Target& target : targets) {
-        if (selectNode(target.type)) {
+    for (const Target& target : targets)
+        if (selectNode(target.type))
             return take("node-selected") && selectField(target.field) && take("field-selected");
-        }
-    }
     return fail(QStringLiteral("no %1 in the scene").arg(QLatin1String(targets.first().type)));
 }
 
@@ -147,11 +137,9 @@ SoPath* AppTour::find(const char* type) const
     search.setInterest(SoSearchAction::ALL);
     search.apply(m_window.scene().root());
     SoPathList& found = search.getPaths();
-    for (int i = 0; i < found.getLength(); ++i) {
-        if (isBelow(*found[i], "lamp")) {
+    for (int i = 0; i < found.getLength(); ++i)
+        if (isBelow(*found[i], "lamp"))
             return found[i]->copy();
-        }
-    }
     return found.getLength() > 0 ? found[0]->copy() : nullptr;
 }
 
@@ -159,9 +147,8 @@ bool AppTour::selectNode(const char* type)
 {
     auto* tree = visibleChild<QTreeView>(m_window, "sceneView");
     SoPath* path = find(type);
-    if (!path || !tree) {
+    if (!path || !tree)
         return false;
-    }
     path->ref();
     const QModelIndex index = m_window.sceneModel().index(*path);
     path->unref();
@@ -174,15 +161,13 @@ bool AppTour::selectNode(const char* type)
 bool AppTour::selectField(const char* name)
 {
     auto* table = visibleChild<QTableView>(m_window, "fieldView");
-    if (!table) {
+    if (!table)
         return fail(QStringLiteral("no list of fields"));
-    }
     const QModelIndexList found =
         table->model()->match(table->model()->index(0, HostFieldModel::NameColumn), Qt::DisplayRole,
                               QLatin1String(name), 1, Qt::MatchExactly);
-    if (found.isEmpty()) {
+    if (found.isEmpty())
         return fail(QStringLiteral("no field %1").arg(QLatin1String(name)));
-    }
     table->scrollTo(found.first());
     AppRobot::click(*table->viewport(), table->visualRect(found.first()).center());
     AppRobot::wait(300);
@@ -194,14 +179,12 @@ bool AppTour::chooseFromEditMenu(const char* actionName)
 {
     auto* action = m_window.findChild<QAction*>(QLatin1String(actionName));
     auto* menu = m_window.findChild<QMenu*>(QStringLiteral("menuEdit"));
-    if (!action || !menu) {
+    if (!action || !menu)
         return fail(QStringLiteral("no menu entry %1").arg(QLatin1String(actionName)));
-    }
     QMenuBar& bar = *m_window.menuBar();
     AppRobot::click(bar, bar.actionGeometry(menu->menuAction()).center());
-    if (!AppRobot::waitUntil([menu] { return menu->isVisible(); })) {
+    if (!AppRobot::waitUntil([menu] { return menu->isVisible(); }))
         return fail(QStringLiteral("the Edit menu did not open"));
-    }
     AppRobot::click(*menu, menu->actionGeometry(action).center());
     return true;
 }

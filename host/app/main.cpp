@@ -48,9 +48,8 @@ int show(const AppArguments& arguments)
     window.restoreLayout();
     window.show();
     const bool opened = arguments.scene.isEmpty() || window.openFile(arguments.scene);
-    if (arguments.tourFolder.isEmpty()) {
+    if (arguments.tourFolder.isEmpty())
         return QApplication::exec();
-    }
     return opened ? runTour(window, arguments.tourFolder) : Failed;
 }
 

@@ -15,9 +15,8 @@ namespace {
 
 void followContents(QHeaderView& header, std::initializer_list<int> sections)
 {
-    for (int section : sections) {
+    for (int section : sections)
         header.setSectionResizeMode(section, QHeaderView::ResizeToContents);
-    }
 }
 
 } // namespace
@@ -97,9 +96,8 @@ void HostBrowser::selectPath(const SoPath* path)
 
 void HostBrowser::s_treeSelectionChanged()
 {
-    if (m_following) {
+    if (m_following)
         return;
-    }
     const QModelIndexList rows = m_sceneView->selectionModel()->selectedRows();
     SoPath* path = rows.isEmpty() ? nullptr : m_sceneModel.path(rows.constFirst());
     if (!path) {
@@ -114,9 +112,8 @@ void HostBrowser::s_treeSelectionChanged()
 
 void HostBrowser::s_fieldSelectionChanged()
 {
-    if (m_following) {
+    if (m_following)
         return;
-    }
     const QModelIndexList rows = m_fieldView->selectionModel()->selectedRows();
     m_services.selectField(rows.isEmpty() ? nullptr : m_fieldModel.field(rows.constFirst().row()));
 }
@@ -135,9 +132,8 @@ void HostBrowser::s_selectedFieldChanged(SoField* field)
 {
     QScopedValueRollback<bool> following(m_following, true);
     const int row = field ? m_fieldModel.row(field) : -1;
-    if (row < 0) {
+    if (row < 0)
         m_fieldView->selectionModel()->clear();
-    } else {
+    else
         m_fieldView->selectRow(row);
-    }
 }

@@ -54,9 +54,8 @@ void HostFileMenu::open()
     QFileDialog dialog(parentWidget(), tr("Open a scene"), folder, tr(NameFilter));
     dialog.setObjectName(QStringLiteral("openDialog"));
     dialog.setFileMode(QFileDialog::ExistingFile);
-    if (dialog.exec() == QDialog::Accepted) {
+    if (dialog.exec() == QDialog::Accepted)
         openFile(dialog.selectedFiles().constFirst());
-    }
 }
 
 void HostFileMenu::openRecent(const QString& path)
@@ -79,9 +78,8 @@ bool HostFileMenu::read(const QString& path)
     m_recentFiles.add(path);
     emit opened();
     emit message(tr("Opened %1").arg(path));
-    if (!m_scene.readErrors().isEmpty()) {
+    if (!m_scene.readErrors().isEmpty())
         tellReadErrors();
-    }
     return true;
 }
 
@@ -100,9 +98,8 @@ void HostFileMenu::tellReadErrors()
 bool HostFileMenu::mayDiscard()
 {
     commitPendingEdit();
-    if (!m_scene.isModified()) {
+    if (!m_scene.isModified())
         return true;
-    }
     QMessageBox box(QMessageBox::Question, tr("Unsaved changes"),
                     tr("The scene has been changed. Save the changes?"),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, parentWidget());
@@ -149,8 +146,7 @@ void HostFileMenu::tell(QMessageBox::Icon icon, const QString& text, const QStri
     box->setTextFormat(Qt::PlainText);
     const QStringList lines = details.split('\n', Qt::SkipEmptyParts);
     box->setInformativeText(QStringList(lines.mid(0, LinesInBox)).join('\n'));
-    if (lines.size() > LinesInBox) {
+    if (lines.size() > LinesInBox)
         box->setDetailedText(details);
-    }
     box->open();
 }

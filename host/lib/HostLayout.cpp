@@ -43,24 +43,19 @@ void HostLayout::save() const
 void HostLayout::reset()
 {
     QVector<QDockWidget*> inUse;
-    for (QDockWidget* dock : m_shell.docks()) {
-        if (!dock->isHidden()) {
+    for (QDockWidget* dock : m_shell.docks())
+        if (!dock->isHidden())
             inUse.append(dock);
-        }
-    }
     m_window.restoreState(m_initial, StateVersion);
     // The initial state was taken while nothing was selected.
-    for (QDockWidget* dock : inUse) {
+    for (QDockWidget* dock : inUse)
         dock->show();
-    }
     hideEmptyDocks();
 }
 
 void HostLayout::hideEmptyDocks() const
 {
-    for (QDockWidget* dock : m_shell.docks()) {
-        if (!dock->widget()) {
+    for (QDockWidget* dock : m_shell.docks())
+        if (!dock->widget())
             dock->hide();
-        }
-    }
 }

@@ -11,6 +11,7 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTableView>
 #include <QTimer>
 #include <QTreeView>
 #include <QUndoView>
@@ -178,18 +179,16 @@ void HostMainWindow::s_rootChanged()
 void HostMainWindow::s_selectedFieldChanged(SoField* field)
 {
     m_fieldWatch.detach();
-    if (field) {
+    if (field)
         m_fieldWatch.attach(field);
-    }
 }
 
 void HostMainWindow::fieldChanged(void* window, SoSensor*)
 {
     auto* self = static_cast<HostMainWindow*>(window);
     // A connected field changes by itself; that is no edit.
-    if (!self->m_fieldWatch.getAttachedField()->isConnected()) {
+    if (!self->m_fieldWatch.getAttachedField()->isConnected())
         self->m_scene.setModified(true);
-    }
 }
 
 /**
@@ -233,9 +232,8 @@ void HostMainWindow::closeEvent(QCloseEvent* event)
 
 void HostMainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!droppedFile(*event->mimeData()).isEmpty()) {
+    if (!droppedFile(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
-    }
 }
 
 void HostMainWindow::dropEvent(QDropEvent* event)

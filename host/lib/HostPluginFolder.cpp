@@ -12,9 +12,8 @@ QStringList libraries(const QDir& directory)
 {
     const QString first = QStringLiteral("TvkDefaults.so");
     QStringList names = directory.entryList({QStringLiteral("*.so")}, QDir::Files, QDir::Name);
-    if (names.removeAll(first) > 0) {
+    if (names.removeAll(first) > 0)
         names.prepend(first);
-    }
     return names;
 }
 
@@ -29,9 +28,8 @@ QStringList HostPluginFolder::load(const QString& directory)
     const QDir folder(directory);
     const QStringList names = libraries(folder);
     QStringList errors;
-    if (names.isEmpty()) {
+    if (names.isEmpty())
         errors.append(QObject::tr("There is no plug-in in \"%1\".").arg(directory));
-    }
     for (const QString& name : names) {
         auto loader = std::make_unique<HostPluginLoader>();
         if (TvkPlugin* plugin = loader->load(folder.absoluteFilePath(name))) {
@@ -46,9 +44,8 @@ QStringList HostPluginFolder::load(const QString& directory)
 
 void HostPluginFolder::release()
 {
-    for (auto loader = m_loaders.rbegin(); loader != m_loaders.rend(); ++loader) {
+    for (auto loader = m_loaders.rbegin(); loader != m_loaders.rend(); ++loader)
         m_manager.release(*(*loader)->plugin());
-    }
 }
 
 void HostPluginFolder::unload()

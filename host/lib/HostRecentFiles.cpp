@@ -30,11 +30,9 @@ void HostRecentFiles::add(const QString& path)
 QStringList HostRecentFiles::files() const
 {
     QStringList existing;
-    for (const QString& path : HostSettings().value(Key).toStringList()) {
-        if (QFileInfo(path).isFile() && existing.size() < Limit) {
+    for (const QString& path : HostSettings().value(Key).toStringList())
+        if (QFileInfo(path).isFile() && existing.size() < Limit)
             existing.append(path);
-        }
-    }
     return existing;
 }
 

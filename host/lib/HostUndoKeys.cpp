@@ -10,9 +10,8 @@ namespace {
 const QLineEdit* lineOf(const QObject* widget)
 {
     const auto* line = qobject_cast<const QLineEdit*>(widget);
-    if (!line && qobject_cast<const QAbstractSpinBox*>(widget)) {
+    if (!line && qobject_cast<const QAbstractSpinBox*>(widget))
         line = widget->findChild<const QLineEdit*>();
-    }
     return line;
 }
 
@@ -28,9 +27,8 @@ bool HostUndoKeys::belongsToTheLine(const QKeyEvent& event, const QObject* watch
     const bool undo = event.matches(QKeySequence::Undo);
     const bool redo = event.matches(QKeySequence::Redo);
     const QLineEdit* line = undo || redo ? lineOf(watched) : nullptr;
-    if (!line) {
+    if (!line)
         return true;
-    }
     return line->isModified() && (undo ? line->isUndoAvailable() : line->isRedoAvailable());
 }
 

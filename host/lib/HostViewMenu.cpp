@@ -15,21 +15,18 @@ HostViewMenu::HostViewMenu(QMainWindow& window, const HostShell& shell)
 
 void HostViewMenu::enableDockActions()
 {
-    for (QDockWidget* dock : m_shell.docks()) {
+    for (QDockWidget* dock : m_shell.docks())
         dock->toggleViewAction()->setEnabled(dock->widget() != nullptr);
-    }
 }
 
 void HostViewMenu::fill()
 {
     enableDockActions();
     clear();
-    for (auto* dock : m_window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    for (auto* dock : m_window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
         addAction(dock->toggleViewAction());
-    }
-    for (auto* bar : m_window.findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly)) {
+    for (auto* bar : m_window.findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly))
         addAction(bar->toggleViewAction());
-    }
     addSeparator();
     addAction(tr("&Reset layout"), this, SIGNAL(resetRequested()))
         ->setObjectName(QStringLiteral("actionResetLayout"));

@@ -42,9 +42,8 @@ void clickRow(QAbstractItemView& view, const QModelIndex& index)
 
 int keepLoaded(dl_phdr_info* library, size_t, void*)
 {
-    if (strstr(library->dlpi_name, "_dri.so") || strstr(library->dlpi_name, "libGLX_")) {
+    if (strstr(library->dlpi_name, "_dri.so") || strstr(library->dlpi_name, "libGLX_"))
         dlopen(library->dlpi_name, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE);
-    }
     return 0;
 }
 
@@ -70,9 +69,8 @@ SessionOnScreen::SessionOnScreen()
 QString SessionOnScreen::write(const QString& name, const QByteArray& text) const
 {
     QFile file(m_folder.filePath(name));
-    if (!file.open(QFile::WriteOnly) || file.write(text) != text.size()) {
+    if (!file.open(QFile::WriteOnly) || file.write(text) != text.size())
         qFatal("%s cannot be written", qPrintable(name));
-    }
     return file.fileName();
 }
 

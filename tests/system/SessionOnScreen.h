@@ -42,11 +42,9 @@ public:
     template <class Widget>
     Widget* visible(const char* name) const
     {
-        for (Widget* widget : m_window->findChildren<Widget*>(QLatin1String(name))) {
-            if (widget->isVisible()) {
+        for (Widget* widget : m_window->findChildren<Widget*>(QLatin1String(name)))
+            if (widget->isVisible())
                 return widget;
-            }
-        }
         return nullptr;
     }
     /** The lines of the vector editor, x first. */

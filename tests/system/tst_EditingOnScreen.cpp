@@ -12,9 +12,6 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
-#include <QTableView>
-#include <QTreeView>
-#include <QUndoView>
 
 /** What a user does in the program's window, with a real mouse, keyboard and screen. */
 class tst_EditingOnScreen : public QObject
@@ -25,11 +22,6 @@ private slots:
     void init();
     void cleanup();
     void selectingAFieldShowsItsEditor();
-    void selectingANodeMarksItInThePicture();
-    void pickingAShapeSelectsItsNode();
-    void pickingWorksWhileTheViewIsForPicking();
-    void pickingNothingClearsTheSelection();
-    void draggingTurnsTheSceneAndSelectsNothing();
     void typingAVectorChangesThePicture();
     void returnAndLeavingMakeOneEntry();
     void leavingAnUneditedLineMakesNoEntry();
@@ -74,19 +66,16 @@ QString tst_EditingOnScreen::translation()
 QLineEdit& tst_EditingOnScreen::firstLine() const
 {
     const QList<QLineEdit*> lines = m_session.vectorLines();
-    if (lines.size() != 3) {
+    if (lines.size() != 3)
         qFatal("the vector editor is not shown");
-    }
     return *lines.first();
 }
 
 QDockWidget& tst_EditingOnScreen::editorDock() const
 {
-    for (QDockWidget* dock : m_session.window().findChildren<QDockWidget*>()) {
-        if (dock->windowTitle() == "Field Editor") {
+    for (QDockWidget* dock : m_session.window().findChildren<QDockWidget*>())
+        if (dock->windowTitle() == "Field Editor")
             return *dock;
-        }
-    }
     qFatal("there is no field editor dock");
 }
 
@@ -98,60 +87,6 @@ void tst_EditingOnScreen::selectingAFieldShowsItsEditor()
     QCOMPARE(firstLine().text(), QStringLiteral("0"));
     m_session.selectNode("Ball");
     QVERIFY(editorDock().isHidden());
-}
-
-void tst_EditingOnScreen::selectingANodeMarksItInThePicture()
-{
-    const QImage before = m_session.picture();
-    m_session.selectNode("Box");
-    QVERIFY(AppRobot::differ(m_session.picture(), before));
-    m_session.window().selectPath(nullptr);
-    QVERIFY(!AppRobot::differ(m_session.picture(), before));
-}
-
-void tst_EditingOnScreen::pickingAShapeSelectsItsNode()
-{
-    auto* tree = m_session.visible<QTreeView>("sceneView");
-    tree->collapseAll();
-    m_session.clickInView(28, 50);
-    QCOMPARE(m_session.window().services().selectedNode(), SoNode::getByName("Ball"));
-    const QModelIndex current = tree->currentIndex();
-    QVERIFY(tree->viewport()->rect().contains(tree->visualRect(current)));
-    QCOMPARE(current.siblingAtColumn(HostSceneModel::NameColumn).data().toString(),
-             QStringLiteral("Ball"));
-}
-
-void tst_EditingOnScreen::pickingWorksWhileTheViewIsForPicking()
-{
-    QTest::keyClick(m_session.window().view().canvas(), Qt::Key_Escape);
-    m_session.clickInView(28, 50);
-    QCOMPARE(m_session.window().services().selectedNode(), SoNode::getByName("Ball"));
-}
-
-void tst_EditingOnScreen::pickingNothingClearsTheSelection()
-{
-    m_session.select("Move", "translation");
-    m_session.clickInView(3, 3);
-    QCOMPARE(m_session.window().services().selectedNode(), nullptr);
-    QVERIFY(editorDock().isHidden());
-}
-
-void tst_EditingOnScreen::draggingTurnsTheSceneAndSelectsNothing()
-{
-    const QImage before = m_session.picture();
-    QWidget* canvas = m_session.window().view().canvas();
-    const QPoint from = canvas->rect().center();
-    QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, from);
-    for (int i = 1; i <= 10; ++i) {
-        QMouseEvent move(QEvent::MouseMove, from + QPoint(8 * i, 0),
-                         canvas->mapToGlobal(from + QPoint(8 * i, 0)), Qt::NoButton, Qt::LeftButton,
-                         Qt::NoModifier);
-        QApplication::sendEvent(canvas, &move);
-        QTest::qWait(20);
-    }
-    QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, from + QPoint(80, 0));
-    QVERIFY(AppRobot::differ(m_session.picture(), before));
-    QCOMPARE(m_session.window().services().selectedNode(), nullptr);
 }
 
 void tst_EditingOnScreen::typingAVectorChangesThePicture()

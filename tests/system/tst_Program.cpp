@@ -44,24 +44,21 @@ tst_Program::Result tst_Program::run(const QStringList& arguments, bool withDisp
     environment.insert("XDG_CONFIG_HOME", m_folder.filePath("settings"));
     // The graphics driver is gone when leaks are counted, so that its own could not be left out.
     environment.insert("ASAN_OPTIONS", "detect_leaks=0");
-    if (!withDisplay) {
+    if (!withDisplay)
         environment.remove("DISPLAY");
-    }
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(TAVRIK_PROGRAM), arguments);
-    if (!process.waitForFinished(300000) || process.exitStatus() != QProcess::NormalExit) {
+    if (!process.waitForFinished(300000) || process.exitStatus() != QProcess::NormalExit)
         return {-1, process.readAllStandardOutput(), process.readAllStandardError()};
-    }
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
 QString tst_Program::write(const QString& name, const QByteArray& text) const
 {
     QFile file(m_folder.filePath(name));
-    if (!file.open(QFile::WriteOnly) || file.write(text) != text.size()) {
+    if (!file.open(QFile::WriteOnly) || file.write(text) != text.size())
         qFatal("the scene cannot be written");
-    }
     return file.fileName();
 }
 

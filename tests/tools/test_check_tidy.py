@@ -27,7 +27,7 @@ class TestCheckTidy(CheckCase):
         self.write("CMakeLists.txt", "cmake_minimum_required(VERSION 3.25)\n"
                    "project(Tree LANGUAGES CXX)\n"
                    f"add_library(tree {' '.join(self.sources)})\n"
-                   "target_include_directories(tree PRIVATE .)\n")
+                   "target_include_directories(tree PRIVATE ${PROJECT_SOURCE_DIR})\n")
 
     def assert_says(self, message):
         result = self.run_check()
@@ -77,6 +77,11 @@ class TestCheckTidy(CheckCase):
     def test_a_file_that_does_not_compile_fails(self):
         self.add("src/A.cpp", "no code\n")
         self.assert_fails("src/A.cpp:1:1: error: unknown type name 'no'")
+
+    def test_a_source_that_no_target_compiles_fails(self):
+        self.add("src/A.cpp", GOOD)
+        self.write("src/B.cpp", GOOD)
+        self.assert_fails("src/B.cpp:1:1: error: is compiled by no target")
 
     def test_nothing_to_check_is_no_success(self):
         self.add("src/A.cpp", GOOD)

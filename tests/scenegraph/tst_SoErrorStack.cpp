@@ -2,7 +2,7 @@
 
 #include "scenegraph/SoGLError.h"
 
-#include "tests/scenegraph/ReportLog.h"
+#include "tests/support/ReportLog.h"
 #include "tests/support/TestMain.h"
 
 namespace {

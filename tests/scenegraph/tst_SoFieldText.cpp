@@ -1,7 +1,7 @@
 #include "scenegraph/SoFieldText.h"
 
-#include "tests/scenegraph/Notifications.h"
-#include "tests/scenegraph/ReportLog.h"
+#include "tests/support/Notifications.h"
+#include "tests/support/ReportLog.h"
 #include "tests/support/TestMain.h"
 
 #include <Inventor/SoPath.h>

@@ -1,6 +1,6 @@
 #include "scenegraph/SoFieldTextCheck.h"
 
-#include "tests/scenegraph/ReportLog.h"
+#include "tests/support/ReportLog.h"
 #include "tests/support/TestMain.h"
 
 #include <Inventor/SbString.h>

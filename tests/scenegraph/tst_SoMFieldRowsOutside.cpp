@@ -1,8 +1,8 @@
 #include "scenegraph/SoMFieldRows.h"
 
 #include "tests/scenegraph/FieldTexts.h"
-#include "tests/scenegraph/Notifications.h"
-#include "tests/scenegraph/ReportLog.h"
+#include "tests/support/Notifications.h"
+#include "tests/support/ReportLog.h"
 #include "tests/support/TestMain.h"
 
 #include <Inventor/fields/SoFields.h>

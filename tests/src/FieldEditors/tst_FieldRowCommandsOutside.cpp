@@ -3,9 +3,9 @@
 #include "FieldEditors/TvkMFSetFieldValueCommand.h"
 #include "FieldEditors/TvkMFSetValueCommand.h"
 #include "FieldEditors/TvkMFSwapRowsCommand.h"
-#include "tests/scenegraph/ReportLog.h"
 #include "tests/support/FieldTexts.h"
 #include "tests/support/NotificationCounter.h"
+#include "tests/support/ReportLog.h"
 #include "tests/support/TestMain.h"
 
 #include <Inventor/fields/SoFields.h>

@@ -35,8 +35,9 @@ QString droppedFile(const QMimeData& data)
 
 HostMainWindow::HostMainWindow()
     : m_shell(*this), m_plugins(m_pluginsManager), m_browser(m_services), m_fileMenu(m_scene, this),
-      m_layout(*this, m_shell), m_fieldWatch(&HostMainWindow::fieldChanged, this),
-      m_viewMenu(*this, m_shell), m_helpMenu(this)
+      m_layout(*this, m_shell), m_undoKeys(*this),
+      m_fieldWatch(&HostMainWindow::fieldChanged, this), m_viewMenu(*this, m_shell),
+      m_helpMenu(this)
 {
     setObjectName(QStringLiteral("HostMainWindow"));
     setAcceptDrops(true);

@@ -15,19 +15,27 @@ const QLineEdit* lineOf(const QObject* widget)
     return line;
 }
 
+/** Also through dialogs, pop-ups and floating docks, which are windows of their own. */
+bool isBelow(const QObject* object, const QObject* ancestor)
+{
+    while (object && object != ancestor)
+        object = object->parent();
+    return object != nullptr;
+}
+
 } // namespace
 
-HostUndoKeys::HostUndoKeys()
+HostUndoKeys::HostUndoKeys(const QWidget& window) : m_window(window)
 {
     qApp->installEventFilter(this);
 }
 
-bool HostUndoKeys::belongsToTheLine(const QKeyEvent& event, const QObject* watched)
+bool HostUndoKeys::belongsToTheLine(const QKeyEvent& event, const QObject* watched) const
 {
     const bool undo = event.matches(QKeySequence::Undo);
     const bool redo = event.matches(QKeySequence::Redo);
     const QLineEdit* line = undo || redo ? lineOf(watched) : nullptr;
-    if (!line)
+    if (!line || !isBelow(line, &m_window))
         return true;
     return line->isModified() && (undo ? line->isUndoAvailable() : line->isRedoAvailable());
 }

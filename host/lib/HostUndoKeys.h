@@ -5,6 +5,7 @@
 #include <QObject>
 
 class QKeyEvent;
+class QWidget;
 
 /**
  * Lets the keys for undo and redo reach the host's undo stack although a text line has the focus. A
@@ -15,10 +16,13 @@ class TAVRIKHOST_EXPORT HostUndoKeys : public QObject
     Q_OBJECT
 
 public:
-    HostUndoKeys();
+    /** Serves the lines of this window, its docks included, and no others of the process. */
+    explicit HostUndoKeys(const QWidget& window);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    static bool belongsToTheLine(const QKeyEvent& event, const QObject* watched);
+    bool belongsToTheLine(const QKeyEvent& event, const QObject* watched) const;
+
+    const QWidget& m_window;
 };

@@ -18,18 +18,6 @@ void DvLineEdit::showText(const QString& text)
     setCursorPosition(0);
 }
 
-bool DvLineEdit::event(QEvent* event)
-{
-    if (event->type() == QEvent::ShortcutOverride && !isModified()) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
-            event->ignore();
-            return true;
-        }
-    }
-    return QLineEdit::event(event);
-}
-
 void DvLineEdit::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape && !showsFieldValue()) {

@@ -3,9 +3,8 @@
 #include <QLineEdit>
 
 /**
- * The line of a field editor. It takes texts of any length; it leaves undo and redo to the host
- * while nothing has been typed into it; Escape, and leaving it with a text that its validator does
- * not accept, ask the editor to show the field's value again.
+ * The line of a field editor. It takes texts of any length; Escape, and leaving it with a text that
+ * its validator does not accept, ask the editor to show the field's value again.
  */
 class DvLineEdit : public QLineEdit
 {
@@ -25,7 +24,6 @@ signals:
     void revertRequested();
 
 protected:
-    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 

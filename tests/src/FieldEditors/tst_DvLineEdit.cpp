@@ -2,7 +2,6 @@
 #include "FieldEditors/DvRealValidator.h"
 #include "tests/support/TestMain.h"
 
-#include <QAction>
 #include <QFocusEvent>
 #include <QMainWindow>
 #include <QSignalSpy>
@@ -21,7 +20,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override { keys << event->key(); }
 };
 
-/** A window of a host: undo and redo as shortcuts, the line and another one. */
+/** A window with the line and another one. */
 struct Window
 {
     Window()
@@ -30,10 +29,6 @@ struct Window
         layout->addWidget(line);
         layout->addWidget(other);
         window.setCentralWidget(parent);
-        undo->setShortcut(QKeySequence::Undo);
-        redo->setShortcut(QKeySequence::Redo);
-        window.addAction(undo);
-        window.addAction(redo);
         window.show();
         QApplication::setActiveWindow(&window);
         line->setFocus();
@@ -43,10 +38,6 @@ struct Window
     Parent* parent = new Parent;
     DvLineEdit* line = new DvLineEdit("m_line", parent);
     QLineEdit* other = new QLineEdit(parent);
-    QAction* undo = new QAction(&window);
-    QAction* redo = new QAction(&window);
-    QSignalSpy undone{undo, SIGNAL(triggered())};
-    QSignalSpy redone{redo, SIGNAL(triggered())};
     QSignalSpy reverts{line, SIGNAL(revertRequested())};
 };
 
@@ -70,12 +61,6 @@ private slots:
     void aShownTextIsTheFieldsAndSeenFromItsStart();
     void whatTheUserTypesIsNotTheFields();
     void aTextSetByAnythingElseIsNotTheFields();
-
-    void undoAndRedoGoToTheHostWhileNothingIsTyped();
-    void undoStaysInTheLineWhileATextIsTyped();
-    void undoGoesToTheHostAgainAfterTheTypedTextIsUndone();
-    void undoGoesToTheHostAfterTheFieldsTextIsShownAgain();
-    void otherKeysOfTheLineStayItsOwn();
 
     void escapeAsksForTheFieldsTextWhileATextIsTyped();
     void escapeIsLeftToTheParentWhileThereIsNothingToRevert();
@@ -132,62 +117,6 @@ void tst_DvLineEdit::aTextSetByAnythingElseIsNotTheFields()
     line.showText(QStringLiteral("1.5"));
     line.setText(QStringLiteral("2"));
     QVERIFY(!line.showsFieldValue());
-}
-
-void tst_DvLineEdit::undoAndRedoGoToTheHostWhileNothingIsTyped()
-{
-    Window host;
-    host.line->showText(QStringLiteral("1.5"));
-    QTest::keySequence(host.line, QKeySequence::Undo);
-    QCOMPARE(host.undone.count(), 1);
-    QTest::keySequence(host.line, QKeySequence::Redo);
-    QCOMPARE(host.redone.count(), 1);
-    QCOMPARE(host.line->text(), QStringLiteral("1.5"));
-}
-
-void tst_DvLineEdit::undoStaysInTheLineWhileATextIsTyped()
-{
-    Window host;
-    host.line->showText(QStringLiteral("1.5"));
-    QTest::keyClicks(host.line, QStringLiteral("2"));
-    QCOMPARE(host.line->text(), QStringLiteral("21.5"));
-    QTest::keyClick(host.line, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(host.line->text(), QStringLiteral("1.5"));
-    QCOMPARE(host.undone.count(), 0);
-}
-
-void tst_DvLineEdit::undoGoesToTheHostAgainAfterTheTypedTextIsUndone()
-{
-    Window host;
-    host.line->showText(QStringLiteral("1.5"));
-    QTest::keyClicks(host.line, QStringLiteral("2"));
-    QTest::keyClick(host.line, Qt::Key_Z, Qt::ControlModifier);
-    QVERIFY(host.line->showsFieldValue());
-    QTest::keyClick(host.line, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(host.undone.count(), 1);
-}
-
-void tst_DvLineEdit::undoGoesToTheHostAfterTheFieldsTextIsShownAgain()
-{
-    Window host;
-    QTest::keyClicks(host.line, QStringLiteral("2"));
-    host.line->showText(QStringLiteral("2"));
-    QTest::keyClick(host.line, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(host.undone.count(), 1);
-    QCOMPARE(host.line->text(), QStringLiteral("2"));
-}
-
-void tst_DvLineEdit::otherKeysOfTheLineStayItsOwn()
-{
-    Window host;
-    QAction* const selectAll = new QAction(&host.window);
-    selectAll->setShortcut(QKeySequence::SelectAll);
-    host.window.addAction(selectAll);
-    const QSignalSpy selected(selectAll, SIGNAL(triggered()));
-    host.line->showText(QStringLiteral("1.5"));
-    QTest::keyClick(host.line, Qt::Key_A, Qt::ControlModifier);
-    QCOMPARE(host.line->selectedText(), QStringLiteral("1.5"));
-    QCOMPARE(selected.count(), 0);
 }
 
 void tst_DvLineEdit::escapeAsksForTheFieldsTextWhileATextIsTyped()

@@ -3,6 +3,7 @@
 #include "lib/HostFieldSummary.h"
 #include "lib/HostText.h"
 
+#include <Inventor/SbName.h>
 #include <Inventor/engines/SoEngine.h>
 #include <Inventor/engines/SoEngineOutput.h>
 #include <Inventor/engines/SoNodeEngine.h>

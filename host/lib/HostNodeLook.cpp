@@ -4,6 +4,7 @@
 #include "lib/HostSceneModel.h"
 #include "lib/HostText.h"
 
+#include <Inventor/SbName.h>
 #include <Inventor/nodes/SoNode.h>
 
 #include <QCoreApplication>

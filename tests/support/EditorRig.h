@@ -6,6 +6,7 @@
 #include "FieldEditors/DvSFieldWidget.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QVBoxLayout>
 #include <QtTest>
 

@@ -7,6 +7,7 @@
 #include <Inventor/nodes/SoCone.h>
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 /** An editor without a type of its own: the base as it is. */

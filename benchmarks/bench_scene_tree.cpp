@@ -28,14 +28,14 @@ const QStringList s_titles{QStringLiteral("Type"), QStringLiteral("Name"),
 /** A root over `groups` groups of `size` cubes each; no groups at all means all below the root. */
 SoSeparator* buildScene(int groups, int size)
 {
-    SoSeparator* root = new SoSeparator;
+    auto* root = new SoSeparator;
     root->setName("scene");
     for (int i = 0; i < std::max(groups, 1); ++i) {
         SoSeparator* group = groups > 0 ? new SoSeparator : root;
         if (groups > 0)
             root->addChild(group);
         for (int j = 0; j < size; ++j) {
-            SoCube* cube = new SoCube;
+            auto* cube = new SoCube;
             cube->setName(QByteArray("cube_" + QByteArray::number(j)).constData());
             group->addChild(cube);
         }

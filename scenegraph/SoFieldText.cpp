@@ -35,7 +35,7 @@ Field* as(SoField* field)
 template <class Field, class Value>
 bool setIf(SoField* field, const Value& value)
 {
-    Field* typed = as<Field>(field);
+    auto* typed = as<Field>(field);
     if (typed)
         typed->setValue(value);
     return typed != nullptr;
@@ -44,7 +44,7 @@ bool setIf(SoField* field, const Value& value)
 template <class Field, class Value>
 bool set1If(SoMField* field, int row, const Value& value)
 {
-    Field* typed = as<Field>(field);
+    auto* typed = as<Field>(field);
     if (typed)
         typed->set1Value(row, value);
     return typed != nullptr;

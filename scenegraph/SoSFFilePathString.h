@@ -11,7 +11,9 @@
  */
 class TAVRIKSCENEGRAPH_EXPORT SoSFFilePathString : public SoSFString
 {
-    typedef SoSFString inherited;
+    using inherited = SoSFString;
+    // The assignment operator is the macro's.
+    // NOLINTNEXTLINE(misc-unconventional-assign-operator)
     SO_SFIELD_DERIVED_HEADER(SoSFFilePathString, SbString, const SbString&);
 
 public:

@@ -17,7 +17,7 @@ QDateTime toDateTime(const SbTime& time)
 
 SbTime toTime(const QDateTime& dateTime)
 {
-    return SbTime(static_cast<double>(dateTime.toMSecsSinceEpoch()) / 1000.0);
+    return {static_cast<double>(dateTime.toMSecsSinceEpoch()) / 1000.0};
 }
 
 } // namespace

@@ -62,36 +62,36 @@ const Field* as(const SoField& field)
 
 QString singleText(SoField& field)
 {
-    if (const auto node = as<SoSFNode>(field))
+    if (const auto* const node = as<SoSFNode>(field))
         return HostText::title(node->getValue());
-    if (const auto path = as<SoSFPath>(field))
+    if (const auto* const path = as<SoSFPath>(field))
         return pathTitle(path->getValue());
-    if (const auto engine = as<SoSFEngine>(field))
+    if (const auto* const engine = as<SoSFEngine>(field))
         return HostText::title(engine->getValue());
-    if (const auto image = as<SoSFImage>(field))
+    if (const auto* const image = as<SoSFImage>(field))
         return imageText(*image);
-    if (const auto image3 = as<SoSFImage3>(field))
+    if (const auto* const image3 = as<SoSFImage3>(field))
         return image3Text(*image3);
     SbString text;
     field.get(text);
     const QString line = oneLine(text);
-    const auto number = as<SoSFEnum>(field);
+    const auto* const number = as<SoSFEnum>(field);
     // A value that has no name is written as nothing.
     return line.isEmpty() && number ? QString::number(number->getValue()) : line;
 }
 
 QString valueText(SoMField& field, int row)
 {
-    if (const auto nodes = as<SoMFNode>(field))
+    if (const auto* const nodes = as<SoMFNode>(field))
         return HostText::title((*nodes)[row]);
-    if (const auto paths = as<SoMFPath>(field))
+    if (const auto* const paths = as<SoMFPath>(field))
         return pathTitle((*paths)[row]);
-    if (const auto engines = as<SoMFEngine>(field))
+    if (const auto* const engines = as<SoMFEngine>(field))
         return HostText::title((*engines)[row]);
     SbString text;
     field.get1(row, text);
     const QString line = oneLine(text);
-    const auto numbers = as<SoMFEnum>(field);
+    const auto* const numbers = as<SoMFEnum>(field);
     return line.isEmpty() && numbers ? QString::number((*numbers)[row]) : line;
 }
 
@@ -109,8 +109,7 @@ QString multipleText(SoMField& field)
 QString HostFieldSummary::text(SoField& field)
 {
     const bool isMultiple = field.isOfType(SoMField::getClassTypeId());
-    const QString text =
-        isMultiple ? multipleText(static_cast<SoMField&>(field)) : singleText(field);
+    QString text = isMultiple ? multipleText(static_cast<SoMField&>(field)) : singleText(field);
     if (text.size() <= s_maximalLength)
         return text;
     return text.left(s_maximalLength - 1) + QChar(0x2026);

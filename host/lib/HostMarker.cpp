@@ -91,8 +91,8 @@ public:
     void update();
     bool follow();
     SbBox3f markedBox() const;
-    void show(const SbBox3f& box);
-    void hide() { visibility->whichChild = SO_SWITCH_NONE; }
+    void show(const SbBox3f& box) const;
+    void hide() const { visibility->whichChild = SO_SWITCH_NONE; }
 
     MarkerSeparator* separator = new MarkerSeparator;
     SoSwitch* visibility = new SoSwitch;
@@ -122,18 +122,18 @@ HostMarker::Private::Private()
 
 void HostMarker::Private::buildBox()
 {
-    const auto pick = new SoPickStyle;
+    auto* const pick = new SoPickStyle;
     pick->style = SoPickStyle::UNPICKABLE;
-    const auto light = new SoLightModel;
+    auto* const light = new SoLightModel;
     light->model = SoLightModel::BASE_COLOR;
-    const auto binding = new SoMaterialBinding;
+    auto* const binding = new SoMaterialBinding;
     binding->value = SoMaterialBinding::OVERALL;
-    const auto color = new SoBaseColor;
+    auto* const color = new SoBaseColor;
     color->rgb = s_color;
-    const auto style = new SoDrawStyle;
+    auto* const style = new SoDrawStyle;
     style->style = SoDrawStyle::LINES;
     style->lineWidth = 2;
-    const auto lines = new SoIndexedLineSet;
+    auto* const lines = new SoIndexedLineSet;
     lines->coordIndex.setValues(0, int(std::size(s_edges)), s_edges);
     for (SoNode* node :
          std::initializer_list<SoNode*>{pick, light, binding, color, style, corners, lines})
@@ -189,7 +189,7 @@ bool HostMarker::Private::follow()
 SbBox3f HostMarker::Private::markedBox() const
 {
     head->ref();
-    SoPath* path = new SoPath(head);
+    auto* const path = new SoPath(head);
     path->ref();
     for (const Step& step : steps)
         path->append(step.row);
@@ -199,7 +199,7 @@ SbBox3f HostMarker::Private::markedBox() const
     return box;
 }
 
-void HostMarker::Private::show(const SbBox3f& box)
+void HostMarker::Private::show(const SbBox3f& box) const
 {
     const SbVec3f size = box.getMax() - box.getMin();
     const float margin = s_margin * std::max(size[0], std::max(size[1], size[2]));

@@ -24,7 +24,7 @@ QIcon drawSharedIcon()
     painter.setPen(QPen(QColor(0x2f, 0x7f, 0xc4), 1.8));
     painter.drawEllipse(QRectF(1.5, 4, 8, 8));
     painter.drawEllipse(QRectF(6.5, 4, 8, 8));
-    return QIcon(pixmap);
+    return {pixmap};
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <Inventor/nodes/SoNode.h>
 
 #include <cstdint>
+#include <cstring>
 
 namespace {
 
@@ -37,7 +38,10 @@ struct Tally
 void tally(void* auditor, void* type, void* closure)
 {
     Tally& result = *static_cast<Tally*>(closure);
-    const bool isParent = reinterpret_cast<uintptr_t>(type) == uintptr_t(SoNotRec::PARENT);
+    // Coin keeps the enumerator in the pointer.
+    std::uintptr_t kind = 0;
+    std::memcpy(&kind, &type, sizeof(kind));
+    const bool isParent = kind == SoNotRec::PARENT;
     if (isParent && auditor != result.except)
         ++result.count;
 }

@@ -24,7 +24,8 @@ QString systemError()
 template <class Function>
 Function* symbol(void* library, const char* name)
 {
-    return reinterpret_cast<Function*>(dlsym(library, name));
+    // What dlsym() answers is a function only by a cast like this.
+    return reinterpret_cast<Function*>(dlsym(library, name)); // NOLINT(*-reinterpret-cast)
 }
 
 /** Anything of this library: its address tells where the library's file is. */

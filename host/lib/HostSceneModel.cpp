@@ -77,7 +77,7 @@ SoNode* HostSceneModel::node(const QModelIndex& index) const
 {
     if (!index.isValid() || index.model() != this)
         return nullptr;
-    const auto item = static_cast<const HostSceneItem*>(index.internalPointer());
+    const auto* const item = static_cast<const HostSceneItem*>(index.internalPointer());
     return item->isLive() ? item->liveChild(index.row()) : nullptr;
 }
 
@@ -87,7 +87,7 @@ HostSceneItem* HostSceneModel::itemBelow(const QModelIndex& parent) const
         return m_top.get();
     if (parent.column() != TypeColumn || parent.model() != this)
         return nullptr;
-    const auto above = static_cast<HostSceneItem*>(parent.internalPointer());
+    auto* const above = static_cast<HostSceneItem*>(parent.internalPointer());
     HostSceneItem* item = above->find(parent.row());
     return item ? item : makeItem(*above, parent.row());
 }
@@ -146,7 +146,7 @@ bool HostSceneModel::hasChildren(const QModelIndex& parent) const
         return m_top->count() > 0;
     if (parent.column() != TypeColumn)
         return false;
-    const auto above = static_cast<const HostSceneItem*>(parent.internalPointer());
+    const auto* const above = static_cast<const HostSceneItem*>(parent.internalPointer());
     if (const HostSceneItem* item = above->find(parent.row()))
         return item->count() > 0;
     return parent.row() < above->count() && above->expandable[size_t(parent.row())];
@@ -175,10 +175,10 @@ SoPath* HostSceneModel::path(const QModelIndex& index) const
     if (!node(index))
         return nullptr;
     std::vector<int> rows;
-    auto item = static_cast<const HostSceneItem*>(index.internalPointer());
+    const auto* item = static_cast<const HostSceneItem*>(index.internalPointer());
     for (int row = index.row(); item->parent; row = item->row, item = item->parent)
         rows.push_back(item->liveRow(row));
-    SoPath* path = new SoPath(m_root);
+    auto* path = new SoPath(m_root);
     std::for_each(rows.rbegin(), rows.rend(), [path](int row) { path->append(row); });
     return path;
 }

@@ -18,7 +18,7 @@ namespace {
 
 const char s_inventorHeader[] = "#Inventor V2.1 ascii";
 const char s_vrmlHeader[] = "#VRML V2.0 utf8";
-const size_t s_firstSize = 64 * 1024;
+const size_t s_firstSize = 65536;
 
 /** Writes its children side by side without itself, so that they can share nodes in the file. */
 class FileBody : public SoGroup
@@ -40,7 +40,7 @@ QByteArray bytesOf(SoNode& node, const char* header)
     void* buffer = nullptr;
     size_t size = 0;
     output.getBuffer(buffer, size);
-    const QByteArray bytes(static_cast<const char*>(buffer), int(size));
+    QByteArray bytes(static_cast<const char*>(buffer), int(size));
     std::free(buffer);
     return bytes;
 }
@@ -82,7 +82,7 @@ QByteArray HostSceneWriter::writeInventor(SoGroup& root)
 
 QByteArray HostSceneWriter::writeVrml(SoGroup& root)
 {
-    FileBody* body = new FileBody;
+    auto* body = new FileBody;
     body->ref();
     if (isAllVrml(root)) {
         // The separator that the reader puts around a VRML scene is no VRML.
@@ -94,7 +94,7 @@ QByteArray HostSceneWriter::writeVrml(SoGroup& root)
         if (SoNode* converted = convert.getVRML2SceneGraph())
             body->addChild(converted);
     }
-    const QByteArray bytes = bytesOf(*body, s_vrmlHeader);
+    QByteArray bytes = bytesOf(*body, s_vrmlHeader);
     body->unref();
     return bytes;
 }

@@ -95,7 +95,8 @@ void HostUndoStack::dropAll()
     const Operation dropping(*this);
     for (int i = 0; i < m_stack.count(); ++i)
         entry(i).drop();
-    for (std::size_t i = 0; i < m_pending.size(); ++i)
+    // Counted, since a command that dies may push another.
+    for (std::size_t i = 0; i < m_pending.size(); ++i) // NOLINT(modernize-loop-convert)
         m_pending[i]->drop();
     m_hasDeadEntries = true;
     m_mustSettle = true;

@@ -14,7 +14,7 @@ QString DvFieldText::toQString(const SbString& text)
 
 SbString DvFieldText::toSbString(const QString& text)
 {
-    return SbString(text.toUtf8().constData());
+    return {text.toUtf8().constData()};
 }
 
 QString DvFieldText::fromReal(double value, int significantDigits)

@@ -1,6 +1,5 @@
 #include "FieldEditors/DvLayoutConstants.h"
 
-#include <algorithm>
 #include <cstring>
 #include <map>
 #include <string>
@@ -62,9 +61,11 @@ static_assert(sizeof(s_table) / sizeof(s_table[0]) == DvLayoutConstants::rowCoun
 
 int lookUp(const char* name)
 {
-    const auto row = std::find_if(std::begin(s_table), std::end(s_table),
-                                  [name](const auto& r) { return std::strcmp(r.name, name) == 0; });
-    return row == std::end(s_table) ? 0 : row->value;
+    for (const DvLayoutConstants::Row& row : s_table) {
+        if (std::strcmp(row.name, name) == 0)
+            return row.value;
+    }
+    return 0;
 }
 
 } // namespace

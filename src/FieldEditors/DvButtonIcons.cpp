@@ -171,6 +171,73 @@ const char* const s_ignoreIcon[] = {
     "  |             ",
     "                ",
 };
+const char* const s_editIcon[] = {
+    "16 16 48 1",
+    "  c None",
+    ". c #28211E",
+    "+ c #302720",
+    "@ c #392E21",
+    "# c #586375",
+    "$ c #5E6879",
+    "% c #614D25",
+    "& c #626E81",
+    "* c #6D7684",
+    "= c #707A8A",
+    "- c #738299",
+    "; c #798497",
+    "> c #848FA0",
+    ", c #8793A7",
+    "' c #8A93A0",
+    ") c #8F6F28",
+    "! c #929EB0",
+    "~ c #939BA7",
+    "{ c #987528",
+    "] c #99A4B4",
+    "^ c #A0A6AF",
+    "/ c #A3ACB9",
+    "( c #A8B1BF",
+    "_ c #AB842B",
+    ": c #AB8837",
+    "< c #AFB4BA",
+    "[ c #B1882C",
+    "} c #B2B9C4",
+    "| c #B6BEC9",
+    "1 c #B78D2E",
+    "2 c #BABEC1",
+    "3 c #BD922F",
+    "4 c #BEC6D1",
+    "5 c #BF6262",
+    "6 c #C07153",
+    "7 c #C19A3F",
+    "8 c #C39631",
+    "9 c #C46464",
+    "0 c #C99B32",
+    "a c #C9A247",
+    "b c #C9D0DA",
+    "c c #CBCFD2",
+    "d c #CD8C45",
+    "e c #CE9C36",
+    "f c #D0D5D8",
+    "g c #D3995C",
+    "h c #DCE0E4",
+    "i c #E1E6EA",
+    "                ",
+    " -----------    ",
+    " ,bb(]bb!44     ",
+    " ,ii|(ii]fg999  ",
+    " ,hh}/hh/ad555  ",
+    " =>>;;>;7ee66   ",
+    " >ff(]fa0000    ",
+    " ;cc/'78888     ",
+    " =~~':3333 &    ",
+    " =/^:1111 <=    ",
+    " =2 [[[[ <2=    ",
+    " $=%@)_ #*=$    ",
+    "   .+{          ",
+    "  ..            ",
+    "                ",
+    "                ",
+};
 // clang-format on
 
 } // namespace
@@ -184,5 +251,11 @@ const QIcon& DvButtonIcons::setToDefault()
 const QIcon& DvButtonIcons::ignore()
 {
     static const QIcon icon{QPixmap(s_ignoreIcon)};
+    return icon;
+}
+
+const QIcon& DvButtonIcons::edit()
+{
+    static const QIcon icon{QPixmap(s_editIcon)};
     return icon;
 }

@@ -14,6 +14,8 @@ DvLineEdit::DvLineEdit(const char* objectName, QWidget* parent) : QLineEdit(pare
 void DvLineEdit::showText(const QString& text)
 {
     m_shownText = text;
+    if (hasFocus() && isModified())
+        return;
     setText(text);
     setCursorPosition(0);
 }

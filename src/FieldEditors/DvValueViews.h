@@ -1,6 +1,15 @@
 #pragma once
 
+#include <Inventor/fields/SoSFBox3s.h>
+#include <Inventor/fields/SoSFColor.h>
+#include <Inventor/fields/SoSFMatrix.h>
+#include <Inventor/fields/SoSFPlane.h>
+#include <Inventor/fields/SoSFRotation.h>
+#include <Inventor/fields/SoSFVec2f.h>
+#include <Inventor/fields/SoSFVec2i32.h>
+#include <Inventor/fields/SoSFVec2s.h>
 #include <Inventor/fields/SoSFVec3f.h>
+#include <Inventor/fields/SoSFVec4f.h>
 
 #include <array>
 #include <cstddef>
@@ -16,6 +25,7 @@ template <class FieldType, class ValueType, class Component, std::size_t N>
 struct DvComponentsView
 {
     using Field = FieldType;
+    using Value = ValueType;
     using Numbers = std::array<double, N>;
 
     static Numbers numbers(const ValueType& value)
@@ -34,4 +44,53 @@ struct DvComponentsView
     }
 };
 
+using DvVec2fView = DvComponentsView<SoSFVec2f, SbVec2f, float, 2>;
 using DvVec3fView = DvComponentsView<SoSFVec3f, SbVec3f, float, 3>;
+using DvVec4fView = DvComponentsView<SoSFVec4f, SbVec4f, float, 4>;
+using DvColorView = DvComponentsView<SoSFColor, SbColor, float, 3>;
+using DvVec2sView = DvComponentsView<SoSFVec2s, SbVec2s, short, 2>;
+using DvVec2i32View = DvComponentsView<SoSFVec2i32, SbVec2i32, int32_t, 2>;
+
+/** A plane as its normal and its distance from the origin. */
+struct DvPlaneView
+{
+    using Field = SoSFPlane;
+    using Value = SbPlane;
+    using Numbers = std::array<double, 4>;
+
+    static Numbers numbers(const SbPlane& plane);
+    static SbPlane value(const Numbers& numbers);
+};
+
+/** A rotation as its axis and its angle in radians. */
+struct DvAxisAngleView
+{
+    using Field = SoSFRotation;
+    using Value = SbRotation;
+    using Numbers = std::array<double, 4>;
+
+    static Numbers numbers(const SbRotation& rotation);
+    static SbRotation value(const Numbers& numbers);
+};
+
+/** A box as its smallest corner, then its largest. */
+struct DvBox3sView
+{
+    using Field = SoSFBox3s;
+    using Value = SbBox3s;
+    using Numbers = std::array<double, 6>;
+
+    static Numbers numbers(const SbBox3s& box);
+    static SbBox3s value(const Numbers& numbers);
+};
+
+/** A matrix, row by row. */
+struct DvMatrixView
+{
+    using Field = SoSFMatrix;
+    using Value = SbMatrix;
+    using Numbers = std::array<double, 16>;
+
+    static Numbers numbers(const SbMatrix& matrix);
+    static SbMatrix value(const Numbers& numbers);
+};

@@ -7,7 +7,8 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 
-DvSFBoolWidget::DvSFBoolWidget() : DvSFieldWidget(QStringLiteral("DvSFBoolWidget"))
+DvSFBoolWidget::DvSFBoolWidget()
+    : DvSFieldWidget(DvSlider::NoKind, QStringLiteral("DvSFBoolWidget"))
 {
     m_handledType = SoSFBool::getClassTypeId();
 }

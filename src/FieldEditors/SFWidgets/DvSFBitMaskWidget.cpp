@@ -1,0 +1,119 @@
+#include "FieldEditors/SFWidgets/DvSFBitMaskWidget.h"
+
+#include "FieldEditors/DvEnumEntries.h"
+#include "FieldEditors/DvLayoutConstants.h"
+
+#include <Inventor/fields/SoSFBitMask.h>
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+bool holds(int mask, int bits)
+{
+    // A name without bits stands for "none of them".
+    return bits == 0 ? mask == 0 : (mask & bits) == bits;
+}
+
+} // namespace
+
+DvSFBitMaskWidget::DvSFBitMaskWidget()
+    : DvSFieldWidget(DvSlider::NoKind, QStringLiteral("DvSFBitMaskWidget"))
+{
+    m_handledType = SoSFBitMask::getClassTypeId();
+}
+
+void DvSFBitMaskWidget::buildEditor(QHBoxLayout& editLayout)
+{
+    m_boxLayout = new QVBoxLayout;
+    m_boxLayout->setSpacing(DvLayoutConstants::value("SFEditionAreaLaySpacing"));
+    editLayout.addLayout(m_boxLayout);
+}
+
+void DvSFBitMaskWidget::fieldReplaced()
+{
+    clearBoxes();
+    for (const DvEnumEntry& entry : enumEntries(*fieldAs<SoSFBitMask>()))
+        addBox(entry.name, entry.value);
+}
+
+void DvSFBitMaskWidget::clearBoxes()
+{
+    for (const Bit& bit : m_bits) {
+        bit.box->disconnect(this);
+        m_boxLayout->removeWidget(bit.box);
+        bit.box->hide();
+        // Later: the box may be the one that is being clicked.
+        bit.box->deleteLater();
+    }
+    m_bits.clear();
+}
+
+void DvSFBitMaskWidget::addBox(const QString& name, int value)
+{
+    auto* const box = new QCheckBox(QString(name).replace(QLatin1Char('&'), QLatin1String("&&")));
+    box->setObjectName(name);
+    box->setAccessibleName(name);
+    m_boxLayout->addWidget(box);
+    m_bits.push_back({box, value});
+    connect(box, SIGNAL(clicked()), this, SLOT(setBitMaskValue()));
+}
+
+void DvSFBitMaskWidget::refresh()
+{
+    if (const auto* mask = fieldAs<SoSFBitMask>()) {
+        for (const Bit& bit : m_bits)
+            bit.box->setChecked(holds(mask->getValue(), bit.value));
+    }
+    DvSFieldWidget::refresh();
+}
+
+void DvSFBitMaskWidget::setBitMaskValue()
+{
+    const auto clicked = std::find_if(m_bits.begin(), m_bits.end(),
+                                      [this](const Bit& bit) { return bit.box == sender(); });
+    if (clicked != m_bits.end())
+        takeAlong(*clicked);
+    applyChanges();
+}
+
+void DvSFBitMaskWidget::takeAlong(const Bit& clicked)
+{
+    const bool on = clicked.box->isChecked();
+    for (const Bit& bit : m_bits) {
+        const bool isMember = bit.value != 0 && holds(clicked.value, bit.value);
+        const bool contains = (bit.value & clicked.value) != 0;
+        // Unticking takes along every name that would bring one of its bits back.
+        if (on ? isMember : isMember || contains)
+            bit.box->setChecked(on);
+        if (on && (clicked.value == 0) != (bit.value == 0))
+            bit.box->setChecked(false);
+    }
+}
+
+int DvSFBitMaskWidget::combined() const
+{
+    int value = 0;
+    for (auto bit = m_bits.rbegin(); bit != m_bits.rend(); ++bit) {
+        if (bit->box->isChecked())
+            value |= bit->value;
+    }
+    return value;
+}
+
+void DvSFBitMaskWidget::applyChanges()
+{
+    auto* const mask = fieldAs<SoSFBitMask>();
+    if (!mask)
+        return;
+    int named = 0;
+    for (const Bit& bit : m_bits)
+        named |= bit.value;
+    // Bits that have no name, and so no box, stay as they are.
+    mask->setValue((mask->getValue() & ~named) | combined());
+    pushSetValue();
+    refresh();
+}

@@ -1,0 +1,3 @@
+#include "FieldEditors/SFWidgets/DvSFNameWidget.h"
+
+DvSFNameWidget::DvSFNameWidget() : DvSFTextWidget(QStringLiteral("DvSFNameWidget")) {}

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <type_traits>
 #include <vector>
 
 class QLayout;
@@ -28,12 +29,13 @@ public:
 
 private:
     QWidget* copyWidget(const QWidget& original);
+    QWidget* newChooser(const QWidget& original);
     QWidget* newWidget(const QWidget& original);
     QLayout* copyLayout(const QLayout& original);
     template <class Twin, class Value>
     void copyValue(Twin* twin, void (Twin::*set)(Value), const std::decay_t<Value>& value);
 
-    std::unique_ptr<QWidget> m_widget;
     std::vector<std::function<void()>> m_show;
     std::vector<std::function<void()>> m_clear;
+    std::unique_ptr<QWidget> m_widget; ///< last: its making fills the lists
 };

@@ -5,6 +5,7 @@
 
 #include <TvkServices.h>
 
+#include <Inventor/fields/SoField.h>
 #include <Inventor/fields/SoFieldContainer.h>
 #include <Inventor/fields/SoFieldData.h>
 

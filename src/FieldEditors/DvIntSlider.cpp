@@ -13,7 +13,13 @@ DvIntSlider::DvIntSlider(int kind, int cellMode, DvSliderOwner& owner, QWidget* 
 {
     if (kind == ShortKind)
         m_validator->setRange(std::numeric_limits<short>::min(), std::numeric_limits<short>::max());
+    setSliderRange(0, 0);
     updateText();
+}
+
+int DvIntSlider::toType(qint64 value) const
+{
+    return static_cast<int>(std::clamp<qint64>(value, m_validator->bottom(), m_validator->top()));
 }
 
 void DvIntSlider::setRange(int minimum, int maximum, bool bounded)
@@ -21,16 +27,19 @@ void DvIntSlider::setRange(int minimum, int maximum, bool bounded)
     if (minimum > maximum)
         return;
     m_bounded = bounded;
-    m_minimum = minimum;
-    m_maximum = maximum;
-    setSliderRange(minimum, maximum);
+    m_minimum = toType(minimum);
+    m_maximum = toType(maximum);
+    setSliderRange(m_minimum, m_maximum);
+    m_position = m_value;
+    moveToPosition();
 }
 
 void DvIntSlider::setValue(int value)
 {
-    takeIn(value);
-    m_value = value;
-    m_position = value;
+    const int clamped = toType(value);
+    takeIn(clamped);
+    m_value = clamped;
+    m_position = clamped;
     updateText();
     moveToPosition();
 }
@@ -60,11 +69,7 @@ void DvIntSlider::onTextEntered(const QString& text)
 
 void DvIntSlider::updateValueFromText()
 {
-    bool parsed = false;
-    const qint64 entered = line().text().toLongLong(&parsed, m_base);
-    const auto bottom = static_cast<qint64>(m_validator->bottom());
-    const auto top = static_cast<qint64>(m_validator->top());
-    int value = parsed ? static_cast<int>(std::clamp(entered, bottom, top)) : 0;
+    int value = toType(DvIntegerText::parse(line().text(), m_base).value_or(0));
     if (m_bounded)
         value = std::clamp(value, m_minimum, m_maximum);
     takeIn(value);

@@ -15,6 +15,7 @@ public:
 
     /** A bounded range is strict; any other grows to take in the values entered or shown. */
     void setRange(int minimum, int maximum, bool bounded);
+    /** A value beyond the type's limits is the limit. */
     void setValue(int value);
     int value() const { return m_value; }
     int minimum() const { return m_minimum; }
@@ -35,6 +36,7 @@ protected:
 
 private:
     void takeIn(int value);
+    int toType(qint64 value) const;
 
     int m_minimum = 0;
     int m_maximum = 0;

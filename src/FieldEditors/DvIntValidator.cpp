@@ -1,5 +1,7 @@
 #include "FieldEditors/DvIntValidator.h"
 
+#include "FieldEditors/DvIntegerText.h"
+
 #include <QLocale>
 
 DvIntValidator::DvIntValidator(QObject* parent) : QIntValidator(parent)
@@ -12,9 +14,7 @@ DvIntValidator::DvIntValidator(QObject* parent) : QIntValidator(parent)
 QValidator::State DvIntValidator::validate(QString& text, int& position) const
 {
     const State state = QIntValidator::validate(text, position);
-    if (state != Intermediate)
-        return state;
-    bool parsed = false;
-    text.toLongLong(&parsed);
-    return parsed ? Acceptable : Intermediate;
+    const std::optional<qint64> number = DvIntegerText::parse(text, 10);
+    const bool isBeyond = number && (*number < bottom() || *number > top());
+    return isBeyond ? Acceptable : state;
 }

@@ -16,7 +16,9 @@ void DvLineEdit::showText(const QString& text)
     m_shownText = text;
     if (hasFocus() && isModified())
         return;
-    setText(text);
+    // A text that stands there already is not laid out again.
+    if (isModified() || text != this->text())
+        setText(text);
     setCursorPosition(0);
 }
 

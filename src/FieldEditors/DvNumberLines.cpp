@@ -36,6 +36,13 @@ bool DvNumberLines::isModified() const
                        [](const Line& line) { return line.edit->isModified(); });
 }
 
+bool DvNumberLines::isHalfTyped() const
+{
+    return std::any_of(m_lines.begin(), m_lines.end(), [](const Line& line) {
+        return line.edit->isModified() && !line.edit->hasAcceptableInput();
+    });
+}
+
 void DvNumberLines::clearModified()
 {
     for (Line& line : m_lines) {

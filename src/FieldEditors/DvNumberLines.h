@@ -26,6 +26,8 @@ public:
     double number(std::size_t index, double component) const;
 
     bool isModified() const;
+    /** Whether a line holds the beginning of a number, and no number yet. */
+    bool isHalfTyped() const;
     void clearModified();
 
 private:

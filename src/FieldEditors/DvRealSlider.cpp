@@ -12,6 +12,7 @@ namespace {
 constexpr int s_lastPosition = 100;
 constexpr double s_largestFloat = 3.4028234663852886e+38;
 constexpr double s_largestDouble = 1.7976931348623157e+308;
+constexpr double s_shrink = 1.0 / 1024;
 
 } // namespace
 
@@ -42,6 +43,8 @@ void DvRealSlider::setRange(double minimum, double maximum, bool bounded)
     m_validator->setBottom(bounded ? minimum : -typeLimit());
     m_validator->setTop(bounded ? maximum : typeLimit());
     setSliderRange(0, s_lastPosition);
+    m_position = positionOf(m_value);
+    moveToPosition();
 }
 
 void DvRealSlider::setValue(double value)
@@ -61,23 +64,28 @@ void DvRealSlider::takeIn(double value)
     m_maximum = std::max(m_maximum, value);
 }
 
+double DvRealSlider::scale() const
+{
+    const double largest = std::max(std::abs(m_minimum), std::abs(m_maximum));
+    return largest > s_largestDouble * s_shrink ? s_shrink : 1.0;
+}
+
 int DvRealSlider::positionOf(double value) const
 {
     if (!(m_maximum > m_minimum) || std::isnan(value))
         return 0;
-    // Wider than a double, whose largest range has a length beyond it.
-    const auto bottom = static_cast<long double>(m_minimum);
-    const long double clamped = std::clamp(value, m_minimum, m_maximum);
-    const long double share = (clamped - bottom) / (static_cast<long double>(m_maximum) - bottom);
-    return static_cast<int>(share * s_lastPosition + 0.5L);
+    const double bottom = m_minimum * scale();
+    const double above = std::clamp(value, m_minimum, m_maximum) * scale() - bottom;
+    return static_cast<int>(above * s_lastPosition / (m_maximum * scale() - bottom) + 0.5);
 }
 
 void DvRealSlider::updateValueFromPosition(int position)
 {
     m_position = position;
-    const auto bottom = static_cast<long double>(m_minimum);
-    const long double length = static_cast<long double>(m_maximum) - bottom;
-    m_value = toType(static_cast<double>(length * position / s_lastPosition + bottom));
+    const double bottom = m_minimum * scale();
+    const double length = m_maximum * scale() - bottom;
+    const double value = (length * position / s_lastPosition + bottom) / scale();
+    m_value = toType(std::clamp(value, m_minimum, m_maximum));
 }
 
 double DvRealSlider::toType(double value) const
@@ -87,6 +95,9 @@ double DvRealSlider::toType(double value) const
 
 void DvRealSlider::updateValueFromText()
 {
+    // The text of the value may round it; whoever types that text again means the value.
+    if (line().text() == format(m_value))
+        return;
     bool parsed = false;
     double value = parse(line().text(), &parsed);
     if (!parsed)
@@ -117,9 +128,13 @@ QString DvRealSlider::format(double value) const
 
 QString DvRealSlider::valueText() const
 {
+    // Qt writes it without its sign.
+    if (m_value == 0.0 && std::signbit(m_value))
+        return QStringLiteral("-0");
     const QString shown = format(m_value);
     bool parsed = false;
-    if (parse(shown, &parsed) == m_value && parsed)
+    const double read = shown.toDouble(&parsed);
+    if (parsed && toType(read) == m_value)
         return shown;
     return QString::number(m_value, 'g',
                            m_isFloat ? std::numeric_limits<float>::max_digits10

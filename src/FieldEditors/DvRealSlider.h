@@ -35,6 +35,8 @@ private:
     QString format(double value) const;
     double parse(const QString& text, bool* parsed) const;
     int positionOf(double value) const;
+    /** A power of two with which the largest ranges too have a length, and percentages of it. */
+    double scale() const;
     void takeIn(double value);
     double typeLimit() const;
     double toType(double value) const;

@@ -4,8 +4,8 @@
 
 #include <array>
 
+class DvSpinBox;
 class QGridLayout;
-class QSpinBox;
 
 /** Two spin boxes, for the vectors of two integers. Every step commits; a typed number commits on
  *  Return or when its box is left. */
@@ -28,10 +28,10 @@ protected:
     bool isTextBeingEdited() const { return false; }
 
 private:
-    QSpinBox* newSpinBox(QGridLayout& grid, int row, const QString& labelText);
+    DvSpinBox* newSpinBox(QGridLayout& grid, int row, const QString& labelText);
 
     const int m_minimum;
     const int m_maximum;
-    std::array<QSpinBox*, 2> m_boxes = {};
+    std::array<DvSpinBox*, 2> m_boxes = {};
     std::array<double, 2> m_shown = {};
 };

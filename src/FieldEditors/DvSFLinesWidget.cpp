@@ -49,6 +49,8 @@ void DvSFLinesWidget::buildRow(QGridLayout& grid, int row)
     line->setAccessibleName(QTextDocumentFragment::fromHtml(label->text()).toPlainText());
     label->setBuddy(line);
     grid.addWidget(line, row, 1);
+    // Where there is too little room the dock scrolls or grows; no line is pressed flat.
+    grid.setRowMinimumHeight(row, line->sizeHint().height());
     connect(line, SIGNAL(editingFinished()), this, SLOT(setFocusLeaveEvent()));
     connect(line, SIGNAL(returnPressed()), this, SLOT(setCommandValue()));
     connect(line, SIGNAL(revertRequested()), this, SLOT(revertPendingEdit()));

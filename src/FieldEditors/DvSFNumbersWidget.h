@@ -3,6 +3,7 @@
 #include "FieldEditors/DvSFieldWidget.h"
 
 #include <cstddef>
+#include <cstring>
 #include <utility>
 
 /**
@@ -54,10 +55,17 @@ public:
         // Before the command goes out: the end of editing that follows Return finds nothing to do.
         this->clearPendingEdit();
         // Made anew from its numbers, a plane or a rotation would not be the same to the last bit.
-        if (numbers == before)
+        if (isSame(numbers, before))
             field->setValue(typename View::Value(field->getValue()));
         else
             field->setValue(View::value(numbers));
         this->pushSetValue();
+    }
+
+private:
+    /** To the last bit: -0 is not 0, and a component that is no number is the same as itself. */
+    static bool isSame(const typename View::Numbers& one, const typename View::Numbers& other)
+    {
+        return std::memcmp(one.data(), other.data(), sizeof(one)) == 0;
     }
 };

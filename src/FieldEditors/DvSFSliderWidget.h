@@ -29,19 +29,22 @@ public:
 
     void refresh() override
     {
-        if (const auto* field = fieldAs<typename Number::Field>())
-            showValue(*numberSlider(), field->getValue());
+        const auto* const field = fieldAs<typename Number::Field>();
+        Slider* const slider = numberSlider();
+        if (field && slider)
+            showValue(*slider, field->getValue());
         DvSFieldWidget::refresh();
     }
 
     void applyChanges() override
     {
         auto* const field = fieldAs<typename Number::Field>();
-        if (!field || !slider())
+        Slider* const slider = numberSlider();
+        if (!field || !slider)
             return;
-        slider()->takePendingEdit();
-        Number::write(*field, *numberSlider());
-        pushSetValue(slider()->oldValueText());
+        slider->takePendingEdit();
+        Number::write(*field, *slider);
+        pushSetValue(slider->oldValueText());
     }
 
 protected:
@@ -76,9 +79,8 @@ private:
 
     void setRange(double minimum, double maximum, bool bounded)
     {
-        if (slider())
-            numberSlider()->setRange(static_cast<Value>(minimum), static_cast<Value>(maximum),
-                                     bounded);
+        if (Slider* const slider = numberSlider())
+            slider->setRange(static_cast<Value>(minimum), static_cast<Value>(maximum), bounded);
     }
 
     /** A value outside of the range stretches it, also a strict one. */

@@ -34,7 +34,7 @@ void DvSFTextBox::showText(const SbString& text)
 
 bool DvSFTextBox::hasNewText() const
 {
-    return !m_line->showsFieldValue();
+    return !m_line->showsFieldValue() && m_line->hasAcceptableInput();
 }
 
 SbString DvSFTextBox::text() const

@@ -20,7 +20,7 @@ protected:
 
     DvLineEdit& line() const { return *m_line; }
     void showText(const SbString& text);
-    /** Whether the line holds another text than the one that refresh() showed. */
+    /** Whether the line holds another text than the one that refresh() showed, and may. */
     bool hasNewText() const;
     SbString text() const;
 

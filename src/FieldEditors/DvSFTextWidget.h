@@ -32,6 +32,8 @@ public:
             return;
         clearPendingEdit();
         field->setValue(text().getString());
+        // From here on the line shows the field's value: leaving it finds nothing to do.
+        refresh();
         pushSetValue();
     }
 };

@@ -50,8 +50,6 @@ DvSFieldWidget::DvSFieldWidget(int sliderKind, const QString& objectName)
     setObjectName(objectName);
     m_name = objectName.toUtf8().constData();
     frame()->setObjectName(objectName);
-    if (m_slider)
-        connect(m_slider, SIGNAL(reverted()), this, SLOT(revertPendingEdit()));
 }
 
 DvSFieldWidget::~DvSFieldWidget()
@@ -189,6 +187,11 @@ void DvSFieldWidget::pushSetValue(SbString& previousText)
 void DvSFieldWidget::commitSlider()
 {
     applyChanges();
+}
+
+void DvSFieldWidget::revertSlider()
+{
+    revertPendingEdit();
 }
 
 void DvSFieldWidget::commitSliderCell(int, int)

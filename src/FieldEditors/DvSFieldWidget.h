@@ -90,6 +90,7 @@ protected:
 
 private:
     void commitSlider() override;
+    void revertSlider() override;
     void commitSliderCell(int row, int column) override;
     void buildLabel(QBoxLayout& layout);
     void buildEditionArea(QBoxLayout& layout);

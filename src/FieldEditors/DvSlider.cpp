@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -53,21 +54,20 @@ void DvSlider::buildControls()
     inner->setObjectName(QStringLiteral("tavrikslider"));
     outer->addLayout(inner);
 
-    m_lineEdit = new DvLineEdit("lineEdit", this);
-    m_lineEdit->setAccessibleName(tr("Value"));
+    // Made in reading order, which the Tab key follows.
+    m_liveBox = new QCheckBox(this);
+    m_liveBox->setToolTip(tr("Change the field while dragging"));
+    m_liveBox->setAccessibleName(m_liveBox->toolTip());
     m_slider = new QSlider(Qt::Horizontal, this);
     m_slider->setTracking(true);
     m_slider->setAccessibleName(tr("Value in its range"));
     m_slider->setFocusPolicy(Qt::StrongFocus);
     DvWheelGuard::install(*m_slider);
-    m_liveBox = new QCheckBox(this);
-    m_liveBox->setToolTip(tr("Change the field while dragging"));
-    m_liveBox->setAccessibleName(m_liveBox->toolTip());
+    m_lineEdit = new DvLineEdit("lineEdit", this);
+    m_lineEdit->setAccessibleName(tr("Value"));
     inner->addWidget(m_liveBox);
     inner->addWidget(m_slider, 1);
     inner->addWidget(m_lineEdit, 1);
-    setTabOrder(m_liveBox, m_slider);
-    setTabOrder(m_slider, m_lineEdit);
 }
 
 void DvSlider::connectControls()
@@ -93,6 +93,8 @@ void DvSlider::moveToPosition()
 {
     const QScopedValueRollback<bool> silence(m_acceptSliderSignals, false);
     m_slider->setValue(m_position);
+    // A value outside of a strict range has the thumb at the end of it.
+    m_position = m_slider->value();
 }
 
 void DvSlider::setSliderRange(int minimum, int maximum)
@@ -127,12 +129,16 @@ void DvSlider::revertPendingEdit()
 void DvSlider::revertFromLine()
 {
     revertPendingEdit();
-    emit reverted();
+    m_owner.revertSlider();
 }
 
 void DvSlider::cancelDrag()
 {
     const QSignalBlocker blocker(m_slider);
+    // The slider follows the mouse until it has seen a release, down or not.
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    static_cast<QObject*>(m_slider)->event(&release);
     m_slider->setSliderDown(false);
     m_inSliderCallback = false;
     m_oldValueText.makeEmpty();
@@ -144,6 +150,8 @@ void DvSlider::commit()
         m_owner.commitSliderCell(m_cellRow, m_cellColumn);
     else
         m_owner.commitSlider();
+    // An owner that has no field has not taken it over; the next command would restore it.
+    m_oldValueText.makeEmpty();
 }
 
 void DvSlider::changeValueFromEdit()

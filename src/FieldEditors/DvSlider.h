@@ -46,10 +46,6 @@ public:
     /** A text that the user has typed; the integer sliders read its base off it. */
     virtual void onTextEntered(const QString& text);
 
-signals:
-    /** Escape, or a line left with a text that is no number; the slider has reverted already. */
-    void reverted();
-
 public slots:
     void changeValueFromEdit();
     void eventNotify(bool state);

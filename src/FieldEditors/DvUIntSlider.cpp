@@ -38,9 +38,11 @@ void DvUIntSlider::setRange(unsigned minimum, unsigned maximum, bool bounded)
     if (minimum > maximum)
         return;
     m_bounded = bounded;
-    m_minimum = minimum;
+    m_minimum = std::min(minimum, m_typeMaximum);
     m_maximum = std::min(maximum, m_typeMaximum);
     setSliderRange(toPosition(m_minimum), toPosition(m_maximum));
+    m_position = toPosition(m_value);
+    moveToPosition();
 }
 
 void DvUIntSlider::setValue(unsigned value)
@@ -81,13 +83,12 @@ void DvUIntSlider::onTextEntered(const QString& text)
 
 void DvUIntSlider::updateValueFromText()
 {
-    bool parsed = false;
-    const unsigned entered = line().text().toUInt(&parsed, m_base);
-    // Kept on purpose: a text that is no number changes nothing here, while the signed slider takes
-    // it for 0.
-    if (!parsed)
+    const std::optional<qint64> entered = DvIntegerText::parse(line().text(), m_base);
+    // Kept on purpose: a text that is no unsigned number changes nothing here, while the signed
+    // slider takes one that is no number for 0.
+    if (!entered || *entered < 0)
         return;
-    unsigned value = std::clamp(entered, m_typeMinimum, m_typeMaximum);
+    auto value = static_cast<unsigned>(std::clamp<qint64>(*entered, m_typeMinimum, m_typeMaximum));
     if (m_bounded)
         value = std::clamp(value, m_minimum, m_maximum);
     takeIn(value);

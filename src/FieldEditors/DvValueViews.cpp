@@ -43,7 +43,7 @@ SbBox3s DvBox3sView::value(const Numbers& numbers)
 {
     std::array<short, 6> bounds = {};
     for (std::size_t i = 0; i < numbers.size(); ++i)
-        bounds[i] = static_cast<short>(numbers[i]);
+        bounds[i] = toComponent<short>(numbers[i]);
     return {bounds[0], bounds[1], bounds[2], bounds[3], bounds[4], bounds[5]};
 }
 

@@ -11,14 +11,32 @@
 #include <Inventor/fields/SoSFVec3f.h>
 #include <Inventor/fields/SoSFVec4f.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <limits>
+#include <type_traits>
 
 /*
  * How the values of the field types are made of numbers, and back: facts only, shared by the
  * editors. Each view says which field class it is for, how many numbers there are, numbers(value)
  * and value(numbers).
  */
+
+/** A number as a component: of an integer type, one beyond its limits is the limit, none is 0. */
+template <class Component>
+Component toComponent(double number)
+{
+    if constexpr (std::is_integral_v<Component>) {
+        using Limits = std::numeric_limits<Component>;
+        if (number != number)
+            return 0;
+        return static_cast<Component>(std::clamp(number, static_cast<double>(Limits::min()),
+                                                 static_cast<double>(Limits::max())));
+    } else {
+        return static_cast<Component>(number);
+    }
+}
 
 /** A value that is N components of one type, each reached by its index. */
 template <class FieldType, class ValueType, class Component, std::size_t N>
@@ -39,7 +57,7 @@ struct DvComponentsView
     {
         ValueType value;
         for (std::size_t i = 0; i < N; ++i)
-            value[static_cast<int>(i)] = static_cast<Component>(numbers[i]);
+            value[static_cast<int>(i)] = toComponent<Component>(numbers[i]);
         return value;
     }
 };

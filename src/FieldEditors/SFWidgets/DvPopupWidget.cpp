@@ -44,7 +44,7 @@ void DvPopupWidget::buildPopup()
         for (int column = 0; column < m_columns; ++column)
             buildPopupLine(*grid, row, column);
     }
-    connect(m_popup, SIGNAL(aboutToClose()), this, SLOT(setFocusLeaveEvent()));
+    connect(m_popup, SIGNAL(aboutToClose()), this, SLOT(finishPopup()));
 }
 
 void DvPopupWidget::buildPopupLine(QGridLayout& grid, int row, int column)
@@ -52,6 +52,9 @@ void DvPopupWidget::buildPopupLine(QGridLayout& grid, int row, int column)
     auto* const line = new DvLineEdit("m_popupLine", m_popup);
     line->setValidator(newValidator(line));
     line->setAccessibleName(tr("Row %1, column %2").arg(row + 1).arg(column + 1));
+    // Wide enough for most numbers, and no wider: there may be four beside each other.
+    const int width = line->fontMetrics().horizontalAdvance(QStringLiteral("-0.123456 "));
+    line->setMinimumWidth(width);
     grid.addWidget(line, row, column);
     m_lines.add(line);
     connect(line, SIGNAL(editingFinished()), this, SLOT(setFocusLeaveEvent()));
@@ -83,10 +86,23 @@ void DvPopupWidget::languageChange()
 
 void DvPopupWidget::managePopFramePos()
 {
-    if (m_popup->isVisible())
-        m_popup->hide();
+    DvPopupFrame* const popup = m_popup;
+    if (!popup)
+        return;
+    if (popup->isVisible()) {
+        popup->hide();
+        return;
+    }
+    popup->popUpBeside(*m_editButton);
+    m_lines.line(0).setFocus(Qt::TabFocusReason);
+}
+
+void DvPopupWidget::finishPopup()
+{
+    if (m_lines.isHalfTyped())
+        revertPendingEdit();
     else
-        m_popup->popUpBeside(*m_editButton);
+        setFocusLeaveEvent();
 }
 
 bool DvPopupWidget::isTextBeingEdited() const

@@ -46,6 +46,10 @@ protected:
     /** Whether the line with the whole text is being edited, and not the pop-up's. */
     bool isTextBeingEdited() const;
 
+private slots:
+    /** The pop-up closes: commits what has been typed, as leaving a line does. */
+    void finishPopup();
+
 private:
     void buildPopup();
     void buildPopupLine(QGridLayout& grid, int row, int column);

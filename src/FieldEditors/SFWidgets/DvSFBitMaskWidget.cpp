@@ -14,8 +14,7 @@ namespace {
 
 bool holds(int mask, int bits)
 {
-    // A name without bits stands for "none of them".
-    return bits == 0 ? mask == 0 : (mask & bits) == bits;
+    return (mask & bits) == bits;
 }
 
 } // namespace
@@ -58,6 +57,7 @@ void DvSFBitMaskWidget::addBox(const QString& name, int value)
     box->setObjectName(name);
     box->setAccessibleName(name);
     m_boxLayout->addWidget(box);
+    box->show();
     m_bits.push_back({box, value});
     connect(box, SIGNAL(clicked()), this, SLOT(setBitMaskValue()));
 }
@@ -65,8 +65,11 @@ void DvSFBitMaskWidget::addBox(const QString& name, int value)
 void DvSFBitMaskWidget::refresh()
 {
     if (const auto* mask = fieldAs<SoSFBitMask>()) {
+        // A name without bits stands for "none of the others".
+        const int value = mask->getValue();
+        const bool isNone = (value & named()) == 0;
         for (const Bit& bit : m_bits)
-            bit.box->setChecked(holds(mask->getValue(), bit.value));
+            bit.box->setChecked(bit.value == 0 ? isNone : holds(value, bit.value));
     }
     DvSFieldWidget::refresh();
 }
@@ -83,6 +86,7 @@ void DvSFBitMaskWidget::setBitMaskValue()
 void DvSFBitMaskWidget::takeAlong(const Bit& clicked)
 {
     const bool on = clicked.box->isChecked();
+    m_clickedBits = clicked.value == 0 && on ? named() : clicked.value;
     for (const Bit& bit : m_bits) {
         const bool isMember = bit.value != 0 && holds(clicked.value, bit.value);
         const bool contains = (bit.value & clicked.value) != 0;
@@ -92,6 +96,14 @@ void DvSFBitMaskWidget::takeAlong(const Bit& clicked)
         if (on && (clicked.value == 0) != (bit.value == 0))
             bit.box->setChecked(false);
     }
+}
+
+int DvSFBitMaskWidget::named() const
+{
+    int value = 0;
+    for (const Bit& bit : m_bits)
+        value |= bit.value;
+    return value;
 }
 
 int DvSFBitMaskWidget::combined() const
@@ -109,11 +121,9 @@ void DvSFBitMaskWidget::applyChanges()
     auto* const mask = fieldAs<SoSFBitMask>();
     if (!mask)
         return;
-    int named = 0;
-    for (const Bit& bit : m_bits)
-        named |= bit.value;
-    // Bits that have no name, and so no box, stay as they are.
-    mask->setValue((mask->getValue() & ~named) | combined());
+    // Bits that the click is not about stay as they are, with a box of their own or without.
+    mask->setValue((mask->getValue() & ~m_clickedBits) | combined());
+    m_clickedBits = 0;
     pushSetValue();
     refresh();
 }

@@ -41,8 +41,10 @@ private:
     void clearBoxes();
     void addBox(const QString& name, int value);
     void takeAlong(const Bit& clicked);
+    int named() const;
     int combined() const;
 
     QVBoxLayout* m_boxLayout = nullptr;
     std::vector<Bit> m_bits;
+    int m_clickedBits = 0;
 };

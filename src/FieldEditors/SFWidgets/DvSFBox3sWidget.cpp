@@ -1,7 +1,6 @@
 #include "FieldEditors/SFWidgets/DvSFBox3sWidget.h"
 
-#include <QIntValidator>
-#include <QLocale>
+#include "FieldEditors/DvIntValidator.h"
 
 #include <limits>
 
@@ -9,10 +8,7 @@ DvSFBox3sWidget::DvSFBox3sWidget() : DvSFNumbersWidget(2, 3, QStringLiteral("DvS
 
 QValidator* DvSFBox3sWidget::newValidator(QObject* parent) const
 {
-    auto* const validator = new QIntValidator(std::numeric_limits<short>::min(),
-                                              std::numeric_limits<short>::max(), parent);
-    QLocale locale = QLocale::c();
-    locale.setNumberOptions(QLocale::RejectGroupSeparator);
-    validator->setLocale(locale);
+    auto* const validator = new DvIntValidator(parent);
+    validator->setRange(std::numeric_limits<short>::min(), std::numeric_limits<short>::max());
     return validator;
 }

@@ -69,6 +69,19 @@ void DvSFColorWidget::languageChange()
     m_colorDisp->setAccessibleName(m_colorDisp->toolTip());
 }
 
+void DvSFColorWidget::refresh()
+{
+    DvSFNumbersWidget::refresh();
+    const auto* const color = fieldAs<SoSFColor>();
+    if (!color)
+        return;
+    // The lines' rounded texts could lie below the channel that the field's components stand for.
+    const DvColorView::Numbers components = DvColorView::numbers(color->getValue());
+    for (std::size_t i = 0; i < m_color.size(); ++i)
+        m_color[i] = number(i, components[i]);
+    paintSwatch();
+}
+
 void DvSFColorWidget::changeRValue(const QString& text)
 {
     changeComponent(0, text);
@@ -110,4 +123,5 @@ void DvSFColorWidget::getColorEditor()
     for (std::size_t i = 0; i < m_color.size(); ++i)
         enterNumber(i, channels[i] / 255.0);
     setCommandValue();
+    refresh();
 }

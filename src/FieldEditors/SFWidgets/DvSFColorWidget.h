@@ -14,6 +14,8 @@ class DvSFColorWidget final : public DvSFNumbersWidget<DvSFLinesWidget, DvColorV
 public:
     DvSFColorWidget();
 
+    void refresh() override;
+
 public slots:
     void languageChange() override;
     // While a line is being typed into, the swatch shows what it says; nothing is committed.

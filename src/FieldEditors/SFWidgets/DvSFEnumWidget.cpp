@@ -3,8 +3,8 @@
 #include "FieldEditors/DvEnumEntries.h"
 #include "FieldEditors/DvFieldText.h"
 #include "FieldEditors/DvWheelGuard.h"
+#include "FieldEditors/SFWidgets/DvEnumBox.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 
@@ -16,7 +16,7 @@ DvSFEnumWidget::DvSFEnumWidget()
 
 void DvSFEnumWidget::buildEditor(QHBoxLayout& editLayout)
 {
-    m_comboBox = new QComboBox(frame());
+    m_comboBox = new DvEnumBox(frame());
     m_comboBox->setObjectName(QStringLiteral("comboBox"));
     m_comboBox->setAccessibleName(tr("Value"));
     m_comboBox->setFocusPolicy(Qt::StrongFocus);
@@ -31,6 +31,11 @@ void DvSFEnumWidget::fieldReplaced()
     m_comboBox->clear();
     for (const DvEnumEntry& entry : enumEntries(*fieldAs<SoSFEnum>()))
         m_comboBox->addItem(entry.name);
+}
+
+void DvSFEnumWidget::fieldReleased()
+{
+    m_comboBox->hidePopup();
 }
 
 void DvSFEnumWidget::refresh()

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/DvSFieldWidget.h"
 
-class QComboBox;
+class DvEnumBox;
 
 /** Edits an SoSFEnum: a combo box with the field's names. */
 class DvSFEnumWidget final : public DvSFieldWidget
@@ -21,7 +21,8 @@ public:
 protected:
     void buildEditor(QHBoxLayout& editLayout) override;
     void fieldReplaced() override;
+    void fieldReleased() override;
 
 private:
-    QComboBox* m_comboBox = nullptr;
+    DvEnumBox* m_comboBox = nullptr;
 };

@@ -11,4 +11,7 @@ class DvSFNameWidget final : public DvSFTextWidget<SoSFName>
 
 public:
     DvSFNameWidget();
+
+protected:
+    void buildEditor(QHBoxLayout& editLayout) override;
 };

@@ -8,12 +8,35 @@
 #include "lib/HostShell.h"
 #include "scenegraph/SoTavrik.h"
 
+#include "FieldEditors/SFWidgets/DvSFBitMaskWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBoolWidget.h"
+#include "FieldEditors/SFWidgets/DvSFBox3sWidget.h"
+#include "FieldEditors/SFWidgets/DvSFColorWidget.h"
+#include "FieldEditors/SFWidgets/DvSFDoubleWidget.h"
+#include "FieldEditors/SFWidgets/DvSFEnumWidget.h"
+#include "FieldEditors/SFWidgets/DvSFFilePathStringWidget.h"
+#include "FieldEditors/SFWidgets/DvSFFloatWidget.h"
+#include "FieldEditors/SFWidgets/DvSFImageWidget.h"
+#include "FieldEditors/SFWidgets/DvSFInt32Widget.h"
 #include "FieldEditors/SFWidgets/DvSFLineWidget.h"
+#include "FieldEditors/SFWidgets/DvSFMatrixWidget.h"
+#include "FieldEditors/SFWidgets/DvSFNameWidget.h"
+#include "FieldEditors/SFWidgets/DvSFPlaneWidget.h"
+#include "FieldEditors/SFWidgets/DvSFRotationWidget.h"
+#include "FieldEditors/SFWidgets/DvSFShortWidget.h"
+#include "FieldEditors/SFWidgets/DvSFStringWidget.h"
+#include "FieldEditors/SFWidgets/DvSFUInt32Widget.h"
+#include "FieldEditors/SFWidgets/DvSFUShortWidget.h"
+#include "FieldEditors/SFWidgets/DvSFVec2fWidget.h"
+#include "FieldEditors/SFWidgets/DvSFVec2i32Widget.h"
+#include "FieldEditors/SFWidgets/DvSFVec2sWidget.h"
 #include "FieldEditors/SFWidgets/DvSFVec3fWidget.h"
+#include "FieldEditors/SFWidgets/DvSFVec4fWidget.h"
 #include "FieldEditors/TvkFieldEditorDockWin.h"
 #include <TvkProfileSetting.h>
 
+#include <Inventor/SoDB.h>
+#include <Inventor/SoInput.h>
 #include <Inventor/nodes/SoNode.h>
 
 #include <QApplication>
@@ -23,6 +46,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -49,11 +73,63 @@ Row row(const char* editorName, const char* nodeType, const char* fieldName)
 
 std::vector<Row> rows()
 {
+    const char* const own = "Things";
     return {
-        row<DvSFLineWidget>("DvSFLineWidget", "VRMLAudioClip", "startTime"),
+        row<DvSFBitMaskWidget>("DvSFBitMaskWidget", "Cylinder", "parts"),
         row<DvSFBoolWidget>("DvSFBoolWidget", "ClipPlane", "on"),
-        row<DvSFVec3fWidget>("DvSFVec3fWidget", "Translation", "translation"),
+        row<DvSFBox3sWidget>("DvSFBox3sWidget", own, "box"),
+        row<DvSFColorWidget>("DvSFColorWidget", own, "color"),
+        row<DvSFDoubleWidget>("DvSFDoubleWidget", own, "precise"),
+        row<DvSFEnumWidget>("DvSFEnumWidget", "DrawStyle", "style"),
+        row<DvSFFilePathStringWidget>("DvSFFilePathStringWidget", own, "path"),
+        row<DvSFFloatWidget>("DvSFFloatWidget", own, "real"),
+        row<DvSFImageWidget>("DvSFImageWidget", own, "image"),
+        row<DvSFInt32Widget>("DvSFInt32Widget", own, "number"),
+        row<DvSFLineWidget>("DvSFLineWidget", own, "time"),
+        row<DvSFMatrixWidget>("DvSFMatrixWidget", own, "matrix"),
+        row<DvSFNameWidget>("DvSFNameWidget", own, "name"),
+        row<DvSFPlaneWidget>("DvSFPlaneWidget", own, "plane"),
+        row<DvSFRotationWidget>("DvSFRotationWidget", own, "rotation"),
+        row<DvSFShortWidget>("DvSFShortWidget", own, "little"),
+        row<DvSFStringWidget>("DvSFStringWidget", own, "text"),
+        row<DvSFUInt32Widget>("DvSFUInt32Widget", own, "natural"),
+        row<DvSFUShortWidget>("DvSFUShortWidget", own, "littleNatural"),
+        row<DvSFVec2fWidget>("DvSFVec2fWidget", own, "spot"),
+        row<DvSFVec2i32Widget>("DvSFVec2i32Widget", own, "cell"),
+        row<DvSFVec2sWidget>("DvSFVec2sWidget", own, "littleCell"),
+        row<DvSFVec3fWidget>("DvSFVec3fWidget", own, "place"),
+        row<DvSFVec4fWidget>("DvSFVec4fWidget", own, "quad"),
     };
+}
+
+/** A node with a field of nearly every type. */
+const char* const s_things =
+    "#Inventor V2.1 ascii\n"
+    "Things {\n"
+    "  fields [ SFBox3s box, SFColor color, SFDouble precise, SFFilePathString path, SFFloat real,\n"
+    "    SFImage image, SFInt32 number, SFTime time, SFMatrix matrix, SFName name, SFPlane plane,\n"
+    "    SFRotation rotation, SFShort little, SFString text, SFUInt32 natural,\n"
+    "    SFUShort littleNatural, SFVec2f spot, SFVec2i32 cell, SFVec2s littleCell,\n"
+    "    SFVec3f place, SFVec4f quad ]\n"
+    "  box -1 -2 -3  1 2 3  color 0.9 0.5 0.1  precise 3.141592653589793  path \"a/b.png\"\n"
+    "  real 2.5  image 2 2 1 0x20 0x40 0x60 0x80  number 42  time 12.5  name \"parrot\"\n"
+    "  plane 0 1 0  2  rotation 0 1 0  0.7  little -7  text \"hello\"  natural 255\n"
+    "  littleNatural 31  spot 0.5 0.25  cell 19 10  littleCell 6 4  place 1 2 3  quad 1 2 3 4\n"
+    "}\n";
+
+/** Referenced once. */
+SoNode* newNode(const char* type)
+{
+    SoNode* node = nullptr;
+    if (QLatin1String(type) != QLatin1String("Things")) {
+        node = static_cast<SoNode*>(SoType::fromName(type).createInstance());
+    } else {
+        SoInput input;
+        input.setBuffer(s_things, std::strlen(s_things));
+        SoDB::read(&input, node);
+    }
+    node->ref();
+    return node;
 }
 
 /** Lets everything pass that the last step has set going. */
@@ -77,8 +153,7 @@ class SelectedField
 public:
     explicit SelectedField(const Row& row) : m_shell(m_window), m_editor(row.newEditor())
     {
-        m_node = static_cast<SoNode*>(SoType::fromName(row.nodeType).createInstance());
-        m_node->ref();
+        m_node = newNode(row.nodeType);
         m_field = m_node->getField(row.fieldName);
         m_editor->createWidgets();
         m_setting.control(m_editor.get());

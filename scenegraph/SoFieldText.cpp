@@ -8,12 +8,20 @@
 #include <Inventor/fields/SoMFNode.h>
 #include <Inventor/fields/SoMFString.h>
 #include <Inventor/fields/SoSFColorRGBA.h>
+#include <Inventor/fields/SoSFDouble.h>
 #include <Inventor/fields/SoSFEngine.h>
+#include <Inventor/fields/SoSFFloat.h>
 #include <Inventor/fields/SoSFImage.h>
+#include <Inventor/fields/SoSFInt32.h>
 #include <Inventor/fields/SoSFName.h>
 #include <Inventor/fields/SoSFNode.h>
+#include <Inventor/fields/SoSFShort.h>
 #include <Inventor/fields/SoSFString.h>
+#include <Inventor/fields/SoSFUInt32.h>
+#include <Inventor/fields/SoSFUShort.h>
 
+#include <array>
+#include <charconv>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -155,13 +163,45 @@ bool setEmptyImage(SoField* field, const SbString& text)
     return isEmpty;
 }
 
+/** A real number, to the last bit; Coin's reader knows neither the extremes nor what is none. */
+template <class Field, class Real>
+bool setRealIf(SoField* field, const SbString& text)
+{
+    Field* const typed = as<Field>(field);
+    if (!typed)
+        return false;
+    const char* const end = text.getString() + text.getLength();
+    Real number = 0;
+    const auto [rest, error] = std::from_chars(text.getString(), end, number);
+    const bool isNumber = error == std::errc() && rest == end;
+    if (isNumber)
+        typed->setValue(number);
+    return isNumber;
+}
+
+bool setReal(SoField* field, const SbString& text)
+{
+    return setRealIf<SoSFFloat, float>(field, text) || setRealIf<SoSFDouble, double>(field, text);
+}
+
+/** The value's own length, where the text is a quoted one. */
+bool isTooLongForName(const SbString& text)
+{
+    if (text.getLength() <= SoFieldText::longestName)
+        return false;
+    SbString value;
+    const bool isQuoted = SoQuotedText::read(text, value);
+    return !isQuoted || value.getLength() > SoFieldText::longestName;
+}
+
 bool setExactly(SoField* field, const SbString& text)
 {
     if (text[0] == '"' && setString(field, text))
         return true;
     if (isNull(text) && setNull(field))
         return true;
-    return setStrings(field, text) || setColors(field, text) || setEmptyImage(field, text);
+    return setReal(field, text) || setStrings(field, text) || setColors(field, text) ||
+           setEmptyImage(field, text);
 }
 
 bool set1Exactly(SoMField* field, int row, const SbString& text)
@@ -173,6 +213,29 @@ bool set1Exactly(SoMField* field, int row, const SbString& text)
     return set1Color(field, row, text);
 }
 
+/** Longer than the shortest text of any number. */
+using NumberText = std::array<char, 32>;
+
+template <class Field>
+bool getNumberIf(SoField* field, SbString& text)
+{
+    const Field* const typed = as<Field>(field);
+    if (!typed)
+        return false;
+    NumberText characters = {};
+    // The last one stays zero.
+    std::to_chars(characters.data(), characters.data() + characters.size() - 1, typed->getValue());
+    text = characters.data();
+    return true;
+}
+
+bool getNumber(SoField* field, SbString& text)
+{
+    return getNumberIf<SoSFFloat>(field, text) || getNumberIf<SoSFDouble>(field, text) ||
+           getNumberIf<SoSFInt32>(field, text) || getNumberIf<SoSFUInt32>(field, text) ||
+           getNumberIf<SoSFShort>(field, text) || getNumberIf<SoSFUShort>(field, text);
+}
+
 bool touchedUnless(SbBool taken, SoField* field)
 {
     if (!taken)
@@ -182,13 +245,23 @@ bool touchedUnless(SbBool taken, SoField* field)
 
 } // namespace
 
+void SoFieldText::get(SoField* field, SbString& text)
+{
+    if (!getNumber(field, text))
+        field->get(text);
+}
+
 SbBool SoFieldText::set(SoField* field, const SbString& text)
 {
+    if (field->isOfType(SoSFName::getClassTypeId()) && isTooLongForName(text))
+        return FALSE;
     return setExactly(field, text) || touchedUnless(field->set(text.getString()), field);
 }
 
 SbBool SoFieldText::set1(SoMField* field, int row, const SbString& text)
 {
+    if (field->isOfType(SoMFName::getClassTypeId()) && isTooLongForName(text))
+        return FALSE;
     return set1Exactly(field, row, text) ||
            touchedUnless(field->set1(row, text.getString()), field);
 }

@@ -11,7 +11,8 @@ class SoMField;
  * Puts a text that SoField::get() or SoMField::get1() gave back into the field, without the losses
  * of Coin's own reader: a string with a quotation mark before a line break, or a backslash at its
  * end, comes back otherwise or not at all; a null node or engine and an image without pixels are
- * refused; colours in a multiple-value field keep their old alpha.
+ * refused; colours in a multiple-value field keep their old alpha; of a single real number the
+ * extremes become 0, and what is none is refused.
  *
  * Any other text is the field's own to read. A text that it refuses may leave half a value without
  * telling anybody, so the field is touched then: whoever shows it shows what is really there.
@@ -19,6 +20,14 @@ class SoMField;
 class TAVRIKSCENEGRAPH_EXPORT SoFieldText
 {
 public:
+    /**
+     * The field's text, as SoField::get() gives it; of a single number the shortest one that set()
+     * reads back to the last bit, which takes a fraction of the time.
+     */
+    static void get(SoField* field, SbString& text);
+    /** In bytes. Coin copies a longer name past the end of the memory that it keeps names in. */
+    static constexpr int longestName = 65503;
+
     /** FALSE when the field refused the text. */
     static SbBool set(SoField* field, const SbString& text);
     /** The same for one value; the row must exist (SoMFieldRows::set1() checks it). */

@@ -9,6 +9,8 @@
 #include <Inventor/fields/SoSFEnum.h>
 #include <Inventor/fields/SoSFNode.h>
 #include <Inventor/fields/SoSFPath.h>
+#include <Inventor/nodekits/SoBaseKit.h>
+#include <Inventor/nodekits/SoNodekitCatalog.h>
 
 #include <cctype>
 #include <memory>
@@ -78,6 +80,24 @@ void copyNames(const SoField& from, SoField& to)
         static_cast<Field&>(to).setEnums(named.getNumEnums(), values.data(), names.data());
 }
 
+/**
+ * Whether the node that the text has made may stand in the field. A node kit takes what stands in
+ * its parts for nodes of their types, and crashes on any other.
+ */
+bool suits(const SoField& field, const SoField& read)
+{
+    const SoFieldContainer* const container = field.getContainer();
+    if (!container || !container->isOfType(SoBaseKit::getClassTypeId()) ||
+        !field.isOfType(SoSFNode::getClassTypeId()))
+        return true;
+    const auto* const kit = static_cast<const SoBaseKit*>(container);
+    const SoNode* const node = static_cast<const SoSFNode&>(read).getValue();
+    SbName name;
+    const bool isPart =
+        kit->getFieldName(&field, name) && kit->getNodekitCatalog()->getPartNumber(name) >= 0;
+    return !isPart || !node || node->isOfType(kit->getNodekitCatalog()->getType(name));
+}
+
 } // namespace
 
 SbBool SoFieldTextCheck::accepts(const SoField& field, const SbString& text)
@@ -93,5 +113,6 @@ SbBool SoFieldTextCheck::accepts(const SoField& field, const SbString& text)
     const QuietReadErrors quiet;
     SoInput input;
     input.setBuffer(text.getString(), static_cast<std::size_t>(text.getLength()));
-    return scratch->read(&input, SbName::empty()) && onlySpaceIsLeft(input);
+    return scratch->read(&input, SbName::empty()) && onlySpaceIsLeft(input) &&
+           suits(field, *scratch);
 }

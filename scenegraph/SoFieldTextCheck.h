@@ -14,7 +14,8 @@ public:
     /**
      * Whether a field of this field's type reads the text, and the whole of it: SoField::set()
      * takes "1F" for 1 and "1,5" for 1, and leaves half a vector behind when a number is missing.
-     * The field itself is not touched, and the reader's complaints reach nobody.
+     * A part of a node kit takes nodes of the part's type only. The field itself is not touched,
+     * and the reader's complaints reach nobody.
      */
     static SbBool accepts(const SoField& field, const SbString& text);
 };

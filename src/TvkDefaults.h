@@ -1,8 +1,29 @@
 #pragma once
 
+#include "FieldEditors/SFWidgets/DvSFBitMaskWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBoolWidget.h"
+#include "FieldEditors/SFWidgets/DvSFBox3sWidget.h"
+#include "FieldEditors/SFWidgets/DvSFColorWidget.h"
+#include "FieldEditors/SFWidgets/DvSFDoubleWidget.h"
+#include "FieldEditors/SFWidgets/DvSFEnumWidget.h"
+#include "FieldEditors/SFWidgets/DvSFFilePathStringWidget.h"
+#include "FieldEditors/SFWidgets/DvSFFloatWidget.h"
+#include "FieldEditors/SFWidgets/DvSFImageWidget.h"
+#include "FieldEditors/SFWidgets/DvSFInt32Widget.h"
 #include "FieldEditors/SFWidgets/DvSFLineWidget.h"
+#include "FieldEditors/SFWidgets/DvSFMatrixWidget.h"
+#include "FieldEditors/SFWidgets/DvSFNameWidget.h"
+#include "FieldEditors/SFWidgets/DvSFPlaneWidget.h"
+#include "FieldEditors/SFWidgets/DvSFRotationWidget.h"
+#include "FieldEditors/SFWidgets/DvSFShortWidget.h"
+#include "FieldEditors/SFWidgets/DvSFStringWidget.h"
+#include "FieldEditors/SFWidgets/DvSFUInt32Widget.h"
+#include "FieldEditors/SFWidgets/DvSFUShortWidget.h"
+#include "FieldEditors/SFWidgets/DvSFVec2fWidget.h"
+#include "FieldEditors/SFWidgets/DvSFVec2i32Widget.h"
+#include "FieldEditors/SFWidgets/DvSFVec2sWidget.h"
 #include "FieldEditors/SFWidgets/DvSFVec3fWidget.h"
+#include "FieldEditors/SFWidgets/DvSFVec4fWidget.h"
 #include "FieldEditors/TvkFieldEditorDockWin.h"
 
 #include <TvkPlugin.h>
@@ -18,8 +39,29 @@ public:
 
 private:
     // In order of construction. The docks choose among the editors in this order.
+    DvSFBitMaskWidget m_sfBitMaskWidget;
     DvSFBoolWidget m_sfBoolWidget;
+    DvSFBox3sWidget m_sfBox3sWidget;
+    DvSFColorWidget m_sfColorWidget;
+    DvSFEnumWidget m_sfEnumWidget;
+    DvSFDoubleWidget m_sfDoubleWidget;
+    DvSFFilePathStringWidget m_sfFilePathStringWidget;
+    DvSFFloatWidget m_sfFloatWidget;
+    DvSFImageWidget m_sfImageWidget;
+    DvSFInt32Widget m_sfInt32Widget;
     DvSFLineWidget m_sfLineWidget;
+    DvSFMatrixWidget m_sfMatrixWidget;
+    DvSFNameWidget m_sfNameWidget;
+    DvSFPlaneWidget m_sfPlaneWidget;
+    DvSFRotationWidget m_sfRotationWidget;
+    DvSFShortWidget m_sfShortWidget;
+    DvSFStringWidget m_sfStringWidget;
+    DvSFUInt32Widget m_sfUInt32Widget;
+    DvSFUShortWidget m_sfUShortWidget;
+    DvSFVec2fWidget m_sfVec2fWidget;
+    DvSFVec2i32Widget m_sfVec2i32Widget;
+    DvSFVec2sWidget m_sfVec2sWidget;
     DvSFVec3fWidget m_sfVec3fWidget;
+    DvSFVec4fWidget m_sfVec4fWidget;
     TvkFieldEditorDockWin m_fieldEditorDockWin;
 };

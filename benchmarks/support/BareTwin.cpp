@@ -1,11 +1,14 @@
 #include "benchmarks/support/BareTwin.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDoubleValidator>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
 
 #include <cstdio>
 #include <cstdlib>
@@ -37,6 +40,9 @@ void copyFrame(const QFrame& original, QFrame& twin)
 QLabel* newLabel(const QLabel& original)
 {
     auto* const label = new QLabel(original.text());
+    if (!original.pixmap(Qt::ReturnByValue).isNull())
+        label->setPixmap(original.pixmap(Qt::ReturnByValue));
+    label->setAlignment(original.alignment());
     copyFrame(original, *label);
     label->setScaledContents(original.hasScaledContents());
     return label;
@@ -56,6 +62,28 @@ QLineEdit* newLine(const QLineEdit& original)
     if (original.validator())
         line->setValidator(new QDoubleValidator(line));
     return line;
+}
+
+QSlider* newSlider(const QSlider& original)
+{
+    auto* const slider = new QSlider(original.orientation());
+    slider->setRange(original.minimum(), original.maximum());
+    return slider;
+}
+
+QComboBox* newCombo(const QComboBox& original)
+{
+    auto* const combo = new QComboBox;
+    for (int item = 0; item < original.count(); ++item)
+        combo->addItem(original.itemText(item));
+    return combo;
+}
+
+QSpinBox* newSpin(const QSpinBox& original)
+{
+    auto* const spin = new QSpinBox;
+    spin->setRange(original.minimum(), original.maximum());
+    return spin;
 }
 
 QFrame* newFrame(const QFrame& original)
@@ -153,10 +181,33 @@ void BareTwin::copyValue(Twin* twin, void (Twin::*set)(Value), const std::decay_
     m_clear.push_back([twin, set] { (twin->*set)({}); });
 }
 
+/** What has a value among several; null for anything else. */
+QWidget* BareTwin::newChooser(const QWidget& original)
+{
+    if (const auto* slider = qobject_cast<const QSlider*>(&original)) {
+        QSlider* const twin = newSlider(*slider);
+        copyValue(static_cast<QAbstractSlider*>(twin), &QAbstractSlider::setValue, slider->value());
+        return twin;
+    }
+    if (const auto* combo = qobject_cast<const QComboBox*>(&original)) {
+        QComboBox* const twin = newCombo(*combo);
+        copyValue(twin, &QComboBox::setCurrentIndex, combo->currentIndex());
+        return twin;
+    }
+    if (const auto* spin = qobject_cast<const QSpinBox*>(&original)) {
+        QSpinBox* const twin = newSpin(*spin);
+        copyValue(twin, &QSpinBox::setValue, spin->value());
+        return twin;
+    }
+    return nullptr;
+}
+
 QWidget* BareTwin::newWidget(const QWidget& original)
 {
     if (const auto* label = qobject_cast<const QLabel*>(&original))
         return newLabel(*label);
+    if (QWidget* const chooser = newChooser(original))
+        return chooser;
     if (const auto* button = qobject_cast<const QPushButton*>(&original))
         return newButton(*button);
     if (const auto* line = qobject_cast<const QLineEdit*>(&original)) {
@@ -172,6 +223,8 @@ QWidget* BareTwin::newWidget(const QWidget& original)
     }
     if (const auto* frame = qobject_cast<const QFrame*>(&original))
         return newFrame(*frame);
+    if (original.metaObject() == &QWidget::staticMetaObject)
+        return new QWidget;
     giveUp(original);
 }
 

@@ -29,6 +29,7 @@ public:
 
 private:
     QWidget* copyWidget(const QWidget& original);
+    QWidget* newChooser(const QWidget& original);
     QWidget* newWidget(const QWidget& original);
     QLayout* copyLayout(const QLayout& original);
     template <class Twin, class Value>

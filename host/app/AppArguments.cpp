@@ -26,10 +26,15 @@ AppArguments AppArguments::parse(const QStringList& arguments)
                                   QStringLiteral("Edits the scene by itself, step by step, and "
                                                  "writes a picture of each step into <folder>."),
                                   QStringLiteral("folder"));
+    const QCommandLineOption gallery(QStringLiteral("gallery"),
+                                     QStringLiteral("Writes a picture of each field editor into "
+                                                    "<folder>, and ends."),
+                                     QStringLiteral("folder"));
     parser.setApplicationDescription(QLatin1String(Description));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addOption(tour);
+    parser.addOption(gallery);
     parser.addPositionalArgument(QStringLiteral("scene"), QStringLiteral("The file to open."),
                                  QStringLiteral("[scene]"));
     if (!parser.parse(arguments))
@@ -44,6 +49,10 @@ AppArguments AppArguments::parse(const QStringList& arguments)
     AppArguments result;
     result.scene = scenes.value(0);
     result.tourFolder = parser.value(tour);
+    result.galleryFolder = parser.value(gallery);
+    if (parser.isSet(gallery) && result.galleryFolder.isEmpty()) {
+        return answer(Refuse, QStringLiteral("A gallery needs a folder for its pictures."));
+    }
     if (parser.isSet(tour) && (result.tourFolder.isEmpty() || result.scene.isEmpty())) {
         return answer(Refuse,
                       QStringLiteral("A tour needs a folder for its pictures and a scene."));

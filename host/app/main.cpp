@@ -1,4 +1,5 @@
 #include "app/AppArguments.h"
+#include "app/AppGallery.h"
 #include "app/AppTour.h"
 #include "app/AppWindow.h"
 
@@ -40,9 +41,24 @@ int runTour(AppWindow& window, const QString& folder)
     return passed ? Done : Failed;
 }
 
+int runGallery(const QString& folder)
+{
+    // Without a view, which needs a display that can draw in three dimensions.
+    HostMainWindow window;
+    window.loadPlugins(HostPluginLoader::pluginDirectory());
+    window.show();
+    AppGallery gallery(window, folder);
+    const bool passed = gallery.run();
+    std::fprintf(passed ? stdout : stderr, "tavrik: %s\n", qUtf8Printable(gallery.message()));
+    return passed ? Done : Failed;
+}
+
 int show(const AppArguments& arguments)
 {
     SoTavrik::init();
+    if (!arguments.galleryFolder.isEmpty()) {
+        return runGallery(arguments.galleryFolder);
+    }
     AppWindow window;
     window.loadPlugins(HostPluginLoader::pluginDirectory());
     window.restoreLayout();

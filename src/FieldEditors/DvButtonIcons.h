@@ -2,10 +2,12 @@
 
 #include <QIcon>
 
-/** The two icons that every field editor's buttons share; drawn once. */
+/** The icons that the field editors' buttons share; drawn once. */
 class DvButtonIcons
 {
 public:
     static const QIcon& setToDefault();
     static const QIcon& ignore();
+    /** Of the buttons that pop up an editor. */
+    static const QIcon& edit();
 };

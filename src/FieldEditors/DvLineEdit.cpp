@@ -14,7 +14,11 @@ DvLineEdit::DvLineEdit(const char* objectName, QWidget* parent) : QLineEdit(pare
 void DvLineEdit::showText(const QString& text)
 {
     m_shownText = text;
-    setText(text);
+    if (hasFocus() && isModified())
+        return;
+    // A text that stands there already is not laid out again.
+    if (isModified() || text != this->text())
+        setText(text);
     setCursorPosition(0);
 }
 

@@ -13,7 +13,10 @@ class DvLineEdit : public QLineEdit
 public:
     DvLineEdit(const char* objectName, QWidget* parent);
 
-    /** Shows a text from its start, as the field's: not modified. */
+    /**
+     * Shows a text from its start, as the field's: not modified. While the user types into the
+     * line, the typed text stays, and the text is only kept as the one last shown.
+     */
     void showText(const QString& text);
     /** The text last shown by showText(). */
     const QString& shownText() const { return m_shownText; }

@@ -1,5 +1,11 @@
 #include "FieldEditors/DvNumericRanges.h"
 
+#include <Inventor/fields/SoField.h>
+#include <Inventor/fields/SoFieldContainer.h>
+#include <Inventor/nodes/SoComplexity.h>
+#include <Inventor/nodes/SoDirectionalLight.h>
+#include <Inventor/nodes/SoMaterial.h>
+
 #include <QString>
 
 #include <map>
@@ -50,7 +56,26 @@ std::map<Key, DvNumericRanges::Range> parsedTable()
     return ranges;
 }
 
+bool isOfShareType(const SoFieldContainer* container)
+{
+    return container && (container->isOfType(SoComplexity::getClassTypeId()) ||
+                         container->isOfType(SoMaterial::getClassTypeId()) ||
+                         container->isOfType(SoDirectionalLight::getClassTypeId()));
+}
+
 } // namespace
+
+const DvNumericRanges::Range& DvNumericRanges::forReal(const SoField& field,
+                                                       const char* defaultField)
+{
+    return isOfShareType(field.getContainer()) ? *find("Complexity", "value")
+                                               : *find("DefaultNode", defaultField);
+}
+
+const DvNumericRanges::Range& DvNumericRanges::forIntegers()
+{
+    return *find("DefaultNode", "intField");
+}
 
 const DvNumericRanges::Range* DvNumericRanges::find(const char* node, const char* field)
 {

@@ -26,6 +26,17 @@ QString withDecimalPoint(const QString& text)
     return couldBeThousands(text) ? text : QString(text).replace(comma, 1, QLatin1Char('.'));
 }
 
+/**
+ * Whether the text is a number below 1, whole or begun, with no more digits after its leading zeros
+ * than there may be decimals: general notation writes 0.000123457 so.
+ */
+bool isSmallNumber(const QString& text, int digits)
+{
+    static const QRegularExpression s_small(QStringLiteral("^[+-]?0*\\.0*([0-9]*)$"));
+    const QRegularExpressionMatch match = s_small.match(text);
+    return match.hasMatch() && match.capturedLength(1) <= digits;
+}
+
 } // namespace
 
 DvRealValidator::DvRealValidator(QObject* parent)
@@ -43,9 +54,23 @@ DvRealValidator::DvRealValidator(double bottom, double top, int decimals, QObjec
 QValidator::State DvRealValidator::validate(QString& text, int& position) const
 {
     text = withDecimalPoint(text);
-    const State state = QDoubleValidator::validate(text, position);
-    if (!m_clamped || state != Intermediate)
-        return state;
+    State state = QDoubleValidator::validate(text, position);
+    if (state == Invalid && isSmallNumber(text, decimals()) && text.toDouble() >= bottom() &&
+        text.toDouble() <= top())
+        state = Acceptable;
+    return m_clamped && state != Acceptable ? validateBeyond(text, state) : state;
+}
+
+QValidator::State DvRealValidator::validateBeyond(const QString& text, State state) const
+{
+    // Qt refuses a minus at once where the range has no negative numbers.
+    if (state == Invalid && bottom() >= 0.0 && text.startsWith(QLatin1Char('-'))) {
+        QString amount = text.mid(1);
+        int position = 0;
+        state = QDoubleValidator::validate(amount, position);
+    }
+    if (state == Invalid)
+        return Invalid;
     bool parsed = false;
     const double number = text.toDouble(&parsed);
     return parsed || std::isinf(number) ? Acceptable : Intermediate;

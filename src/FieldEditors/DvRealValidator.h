@@ -5,7 +5,8 @@
 /**
  * A real number as Coin writes it, in every language of the user's: decimal point, no group
  * separators. A comma typed as the decimal separator becomes a point; a text that could as well
- * mean thousands, such as a pasted "1,000", is refused.
+ * mean thousands, such as a pasted "1,000", is refused. The zeros that a small number begins with
+ * do not count as decimals, so that every text that is shown can be typed.
  */
 class DvRealValidator final : public QDoubleValidator
 {
@@ -25,5 +26,7 @@ public:
     State validate(QString& text, int& position) const override;
 
 private:
+    State validateBeyond(const QString& text, State state) const;
+
     bool m_clamped = false;
 };

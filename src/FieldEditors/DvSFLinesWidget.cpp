@@ -1,6 +1,5 @@
 #include "FieldEditors/DvSFLinesWidget.h"
 
-#include "FieldEditors/DvFieldText.h"
 #include "FieldEditors/DvLayoutConstants.h"
 #include "FieldEditors/DvLineEdit.h"
 #include "FieldEditors/DvRealValidator.h"
@@ -9,10 +8,8 @@
 #include <QLabel>
 #include <QTextDocumentFragment>
 
-#include <algorithm>
-
-DvSFLinesWidget::DvSFLinesWidget(const QString& objectName, const DvLinesForm& form)
-    : DvSFieldWidget(objectName), m_form(form)
+DvSFLinesWidget::DvSFLinesWidget(const QString& objectName, DvLinesForm form)
+    : DvSFieldWidget(DvSlider::NoKind, objectName), m_form(std::move(form))
 {}
 
 DvSFLinesWidget::~DvSFLinesWidget() = default;
@@ -26,7 +23,14 @@ void DvSFLinesWidget::buildEditor(QHBoxLayout& editLayout)
     grid->setVerticalSpacing(DvLayoutConstants::value(m_form.verticalSpacing));
     grid->setHorizontalSpacing(DvLayoutConstants::value(m_form.horizontalSpacing));
     grid->setColumnStretch(1, 1);
-    editLayout.addLayout(grid);
+    if (m_form.boxName) {
+        auto* const box = new QWidget(frame());
+        box->setObjectName(QLatin1String(m_form.boxName));
+        box->setLayout(grid);
+        editLayout.addWidget(box);
+    } else {
+        editLayout.addLayout(grid);
+    }
     for (int row = 0; row < static_cast<int>(m_form.labels.size()); ++row)
         buildRow(*grid, row);
 }
@@ -45,32 +49,20 @@ void DvSFLinesWidget::buildRow(QGridLayout& grid, int row)
     line->setAccessibleName(QTextDocumentFragment::fromHtml(label->text()).toPlainText());
     label->setBuddy(line);
     grid.addWidget(line, row, 1);
+    // Where there is too little room the dock scrolls or grows; no line is pressed flat.
+    grid.setRowMinimumHeight(row, line->sizeHint().height());
     connect(line, SIGNAL(editingFinished()), this, SLOT(setFocusLeaveEvent()));
     connect(line, SIGNAL(returnPressed()), this, SLOT(setCommandValue()));
     connect(line, SIGNAL(revertRequested()), this, SLOT(revertPendingEdit()));
-    m_lines.push_back(line);
+    m_lines.add(line);
 }
 
 bool DvSFLinesWidget::hasPendingEdit() const
 {
-    return std::any_of(m_lines.begin(), m_lines.end(),
-                       [](const DvLineEdit* line) { return line->isModified(); });
+    return m_lines.isModified();
 }
 
 void DvSFLinesWidget::clearPendingEdit()
 {
-    for (DvLineEdit* line : m_lines)
-        line->setModified(false);
-}
-
-void DvSFLinesWidget::showNumber(std::size_t index, double number)
-{
-    m_lines[index]->showText(DvFieldText::fromReal(number));
-}
-
-double DvSFLinesWidget::number(std::size_t index, double component) const
-{
-    const DvLineEdit& line = *m_lines[index];
-    return line.showsFieldValue() ? component
-                                  : static_cast<double>(DvFieldText::toFloat(line.text()));
+    m_lines.clearModified();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FieldEditors/DvNumberLines.h"
 #include "FieldEditors/DvSFieldWidget.h"
 
 #include <vector>
@@ -10,6 +11,7 @@ class QGridLayout;
 /** What a group of labelled lines looks like: the names and texts that differ from type to type. */
 struct DvLinesForm
 {
+    const char* boxName; ///< of the widget around the lines; null for none
     const char* layoutName;
     const char* labelName;
     const char* lineName;
@@ -28,7 +30,7 @@ class DvSFLinesWidget : public DvSFieldWidget
     Q_OBJECT
 
 public:
-    DvSFLinesWidget(const QString& objectName, const DvLinesForm& form);
+    DvSFLinesWidget(const QString& objectName, DvLinesForm form);
     ~DvSFLinesWidget() override;
 
     bool hasPendingEdit() const override;
@@ -37,13 +39,20 @@ protected:
     void buildEditor(QHBoxLayout& editLayout) override;
     void clearPendingEdit() override;
 
-    void showNumber(std::size_t index, double number);
+    void showNumber(std::size_t index, double number) { m_lines.show(index, number); }
+    /** Enters a number as if the user had typed it. */
+    void enterNumber(std::size_t index, double number) { m_lines.enter(index, number); }
     /** The number that a line stands for, given the field's component. */
-    double number(std::size_t index, double component) const;
+    double number(std::size_t index, double component) const
+    {
+        return m_lines.number(index, component);
+    }
+    bool isTextBeingEdited() const { return false; }
+    DvLineEdit& line(std::size_t index) const { return m_lines.line(index); }
 
 private:
     void buildRow(QGridLayout& grid, int row);
 
-    const DvLinesForm& m_form;
-    std::vector<DvLineEdit*> m_lines;
+    const DvLinesForm m_form;
+    DvNumberLines m_lines;
 };

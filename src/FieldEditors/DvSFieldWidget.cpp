@@ -44,7 +44,8 @@ QPushButton* newButton(const char* objectName, const QIcon& icon, QWidget* paren
 
 } // namespace
 
-DvSFieldWidget::DvSFieldWidget(const QString& objectName)
+DvSFieldWidget::DvSFieldWidget(int sliderKind, const QString& objectName)
+    : m_slider(DvSlider::create(sliderKind, 0, *this, frame(), 0, 1))
 {
     setObjectName(objectName);
     m_name = objectName.toUtf8().constData();
@@ -158,6 +159,7 @@ void DvSFieldWidget::setField(SoField* field)
     if (m_field)
         fieldReleased();
     m_field = field;
+    ++m_fieldNumber;
     TvkFieldEditors::setField(field);
     if (m_field)
         fieldReplaced();
@@ -170,10 +172,31 @@ void DvSFieldWidget::refresh()
     m_ignoreButton->setChecked(m_field->isIgnored());
 }
 
-void DvSFieldWidget::pushSetValue(SbString previousText)
+void DvSFieldWidget::pushSetValue()
+{
+    SbString none;
+    pushSetValue(none);
+}
+
+void DvSFieldWidget::pushSetValue(SbString& previousText)
 {
     if (TvkServices* const services = TvkServices::getInstance())
         services->pushCommand(new TvkSFSetValueCommand(m_field, previousText));
+}
+
+void DvSFieldWidget::commitSlider()
+{
+    applyChanges();
+}
+
+void DvSFieldWidget::revertSlider()
+{
+    revertPendingEdit();
+}
+
+void DvSFieldWidget::commitSliderCell(int, int)
+{
+    // A single-value editor has no cells.
 }
 
 void DvSFieldWidget::setCommandValue()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FieldEditors/DvSlider.h"
+#include "FieldEditors/DvSliderOwner.h"
 #include "FieldEditors/TvkFieldEditors.h"
 
 #include <Inventor/SbString.h>
@@ -16,12 +18,14 @@ class QPushButton;
  * A type supplies buildEditor(), refresh(), applyChanges() and hasPendingEdit(); see
  * DvSFNumbersWidget for the family that most of them belong to.
  */
-class DvSFieldWidget : public TvkFieldEditors
+class DvSFieldWidget : public TvkFieldEditors, private DvSliderOwner
 {
     Q_OBJECT
 
 public:
-    explicit DvSFieldWidget(const QString& objectName = QStringLiteral("DvSFieldWidget"));
+    /** `sliderKind` is a DvSlider::Kind; any other value makes no slider. */
+    explicit DvSFieldWidget(int sliderKind = DvSlider::NoKind,
+                            const QString& objectName = QStringLiteral("DvSFieldWidget"));
     ~DvSFieldWidget() override;
 
     /** Builds the widget tree once; later calls, after releaseWidgets(), renew the sensor only. */
@@ -73,18 +77,29 @@ protected:
     {
         return static_cast<Field*>(m_field);
     }
+    /** Another number for each field that is set: what a dialog began on may be gone at its end. */
+    unsigned fieldNumber() const { return m_fieldNumber; }
+    /** The slider of the numeric kinds; null for the others. */
+    DvSlider* slider() const { return m_slider; }
     /** The type's label; made on first need, so that a type can give it another text. */
     QLabel* label();
     /** Hands the set-value command to the host; the field must hold the new value already. */
-    void pushSetValue(SbString previousText = SbString());
+    void pushSetValue();
+    /** The same with the text of before; the command takes it over and empties it. */
+    void pushSetValue(SbString& previousText);
 
 private:
+    void commitSlider() override;
+    void revertSlider() override;
+    void commitSliderCell(int row, int column) override;
     void buildLabel(QBoxLayout& layout);
     void buildEditionArea(QBoxLayout& layout);
     void buildButtons(QBoxLayout& layout);
 
     QLabel* m_label = nullptr;
     SoField* m_field = nullptr; ///< not owned
+    unsigned m_fieldNumber = 0;
+    QPointer<DvSlider> m_slider; ///< a child of the frame
     QPushButton* m_defaultButton = nullptr;
     QPushButton* m_ignoreButton = nullptr;
 };

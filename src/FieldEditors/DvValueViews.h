@@ -1,9 +1,21 @@
 #pragma once
 
+#include <Inventor/fields/SoSFBox3s.h>
+#include <Inventor/fields/SoSFColor.h>
+#include <Inventor/fields/SoSFMatrix.h>
+#include <Inventor/fields/SoSFPlane.h>
+#include <Inventor/fields/SoSFRotation.h>
+#include <Inventor/fields/SoSFVec2f.h>
+#include <Inventor/fields/SoSFVec2i32.h>
+#include <Inventor/fields/SoSFVec2s.h>
 #include <Inventor/fields/SoSFVec3f.h>
+#include <Inventor/fields/SoSFVec4f.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <limits>
+#include <type_traits>
 
 /*
  * How the values of the field types are made of numbers, and back: facts only, shared by the
@@ -11,11 +23,27 @@
  * and value(numbers).
  */
 
+/** A number as a component: of an integer type, one beyond its limits is the limit, none is 0. */
+template <class Component>
+Component toComponent(double number)
+{
+    if constexpr (std::is_integral_v<Component>) {
+        using Limits = std::numeric_limits<Component>;
+        if (number != number)
+            return 0;
+        return static_cast<Component>(std::clamp(number, static_cast<double>(Limits::min()),
+                                                 static_cast<double>(Limits::max())));
+    } else {
+        return static_cast<Component>(number);
+    }
+}
+
 /** A value that is N components of one type, each reached by its index. */
 template <class FieldType, class ValueType, class Component, std::size_t N>
 struct DvComponentsView
 {
     using Field = FieldType;
+    using Value = ValueType;
     using Numbers = std::array<double, N>;
 
     static Numbers numbers(const ValueType& value)
@@ -29,9 +57,58 @@ struct DvComponentsView
     {
         ValueType value;
         for (std::size_t i = 0; i < N; ++i)
-            value[static_cast<int>(i)] = static_cast<Component>(numbers[i]);
+            value[static_cast<int>(i)] = toComponent<Component>(numbers[i]);
         return value;
     }
 };
 
+using DvVec2fView = DvComponentsView<SoSFVec2f, SbVec2f, float, 2>;
 using DvVec3fView = DvComponentsView<SoSFVec3f, SbVec3f, float, 3>;
+using DvVec4fView = DvComponentsView<SoSFVec4f, SbVec4f, float, 4>;
+using DvColorView = DvComponentsView<SoSFColor, SbColor, float, 3>;
+using DvVec2sView = DvComponentsView<SoSFVec2s, SbVec2s, short, 2>;
+using DvVec2i32View = DvComponentsView<SoSFVec2i32, SbVec2i32, int32_t, 2>;
+
+/** A plane as its normal and its distance from the origin. */
+struct DvPlaneView
+{
+    using Field = SoSFPlane;
+    using Value = SbPlane;
+    using Numbers = std::array<double, 4>;
+
+    static Numbers numbers(const SbPlane& plane);
+    static SbPlane value(const Numbers& numbers);
+};
+
+/** A rotation as its axis and its angle in radians. */
+struct DvAxisAngleView
+{
+    using Field = SoSFRotation;
+    using Value = SbRotation;
+    using Numbers = std::array<double, 4>;
+
+    static Numbers numbers(const SbRotation& rotation);
+    static SbRotation value(const Numbers& numbers);
+};
+
+/** A box as its smallest corner, then its largest. */
+struct DvBox3sView
+{
+    using Field = SoSFBox3s;
+    using Value = SbBox3s;
+    using Numbers = std::array<double, 6>;
+
+    static Numbers numbers(const SbBox3s& box);
+    static SbBox3s value(const Numbers& numbers);
+};
+
+/** A matrix, row by row. */
+struct DvMatrixView
+{
+    using Field = SoSFMatrix;
+    using Value = SbMatrix;
+    using Numbers = std::array<double, 16>;
+
+    static Numbers numbers(const SbMatrix& matrix);
+    static SbMatrix value(const Numbers& numbers);
+};

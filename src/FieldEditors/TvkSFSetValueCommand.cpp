@@ -11,13 +11,13 @@ TvkSFSetValueCommand::TvkSFSetValueCommand(SoField* field, SbString& previousTex
         m_oldValue = previousText;
         previousText.makeEmpty();
     } else {
-        m_field->get(m_oldValue);
+        SoFieldText::get(m_field, m_oldValue);
     }
 }
 
 void TvkSFSetValueCommand::execute()
 {
-    m_field->get(m_newValue);
+    SoFieldText::get(m_field, m_newValue);
 }
 
 void TvkSFSetValueCommand::undo()

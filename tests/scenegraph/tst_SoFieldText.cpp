@@ -1,5 +1,6 @@
 #include "scenegraph/SoFieldText.h"
 
+#include "tests/support/FieldBits.h"
 #include "tests/support/Notifications.h"
 #include "tests/support/ReportLog.h"
 #include "tests/support/TestMain.h"
@@ -8,6 +9,8 @@
 #include <Inventor/engines/SoCalculator.h>
 #include <Inventor/fields/SoFields.h>
 #include <Inventor/nodes/SoCone.h>
+
+#include <limits>
 
 namespace {
 
@@ -35,6 +38,10 @@ private slots:
     void aRefusedTextOfARowTouchesTheField();
     void anAcceptedTextNotifiesOnce();
     void aTextOfNumbersIsReadByTheField();
+    void aNameThatCoinCannotHoldIsRefused();
+    void aNumberComesBackToTheLastBit_data();
+    void aNumberComesBackToTheLastBit();
+    void wholeNumbersComeBack();
 };
 
 void tst_SoFieldText::aNullNodeComesBack()
@@ -156,6 +163,75 @@ void tst_SoFieldText::aTextOfNumbersIsReadByTheField()
     QVERIFY(SoFieldText::set(&floats, "[ 1, 2 ]"));
     QVERIFY(SoFieldText::set1(&floats, 1, "7"));
     QCOMPARE(floats[1], 7.0f);
+}
+
+void tst_SoFieldText::aNameThatCoinCannotHoldIsRefused()
+{
+    const QByteArray longest(SoFieldText::longestName, 'n');
+    SoSFName name;
+    SoMFName names;
+    names.setNum(1);
+    for (const QByteArray& text : {longest, '"' + longest + '"'}) {
+        name.setValue("before");
+        QVERIFY(SoFieldText::set(&name, text.constData()));
+        QVERIFY(SoFieldText::set1(&names, 0, text.constData()));
+        QCOMPARE(name.getValue().getLength(), SoFieldText::longestName);
+        QCOMPARE(names[0].getLength(), SoFieldText::longestName);
+    }
+    for (const QByteArray& text : {longest + 'n', '"' + longest + "n\""}) {
+        QVERIFY(!SoFieldText::set(&name, text.constData()));
+        QVERIFY(!SoFieldText::set1(&names, 0, text.constData()));
+    }
+    QCOMPARE(name.getValue().getLength(), SoFieldText::longestName);
+    QCOMPARE(names[0].getLength(), SoFieldText::longestName);
+}
+
+void tst_SoFieldText::aNumberComesBackToTheLastBit_data()
+{
+    QTest::addColumn<double>("number");
+    for (const double number :
+         {0.0, -0.0, 0.1, 1e-7, -1234567.125, 3.141592653589793, 1e308,
+          std::numeric_limits<double>::max(), std::numeric_limits<double>::denorm_min(),
+          std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+          std::numeric_limits<double>::quiet_NaN()})
+        QTest::addRow("%g", number) << number;
+}
+
+void tst_SoFieldText::aNumberComesBackToTheLastBit()
+{
+    QFETCH(double, number);
+    ReportLog log;
+    SoSFDouble twice;
+    SoSFFloat single;
+    twice.setValue(number);
+    single.setValue(static_cast<float>(number));
+    const QByteArray twiceBits = bitsOf(twice);
+    const QByteArray singleBits = bitsOf(single);
+    for (SoField* field : {static_cast<SoField*>(&twice), static_cast<SoField*>(&single)}) {
+        SbString text;
+        SoFieldText::get(field, text);
+        field->set("7");
+        QVERIFY2(SoFieldText::set(field, text), text.getString());
+    }
+    QCOMPARE(bitsOf(twice), twiceBits);
+    QCOMPARE(bitsOf(single), singleBits);
+    QCOMPARE(log.taken(), QStringList());
+}
+
+void tst_SoFieldText::wholeNumbersComeBack()
+{
+    SoSFInt32 signedNumber;
+    SoSFUInt32 natural;
+    signedNumber.setValue(std::numeric_limits<int32_t>::min());
+    natural.setValue(std::numeric_limits<uint32_t>::max());
+    SbString text;
+    SoFieldText::get(&signedNumber, text);
+    QCOMPARE(text.getString(), "-2147483648");
+    QVERIFY(SoFieldText::set(&signedNumber, text));
+    QCOMPARE(signedNumber.getValue(), std::numeric_limits<int32_t>::min());
+    SoFieldText::get(&natural, text);
+    QVERIFY(SoFieldText::set(&natural, text));
+    QCOMPARE(natural.getValue(), std::numeric_limits<uint32_t>::max());
 }
 
 TAVRIK_TEST_MAIN(tst_SoFieldText)

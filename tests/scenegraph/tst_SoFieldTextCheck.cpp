@@ -5,6 +5,7 @@
 
 #include <Inventor/SbString.h>
 #include <Inventor/fields/SoFields.h>
+#include <Inventor/nodekits/SoShapeKit.h>
 #include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoCube.h>
 #include <Inventor/nodes/SoDrawStyle.h>
@@ -50,6 +51,7 @@ private slots:
     void theFieldItselfIsNotTouched();
     void theReadErrorsHandlerIsBackAfterwards();
     void aNamedNodeInTheTextIsForgottenAgain();
+    void aPartOfANodeKitTakesNodesOfItsTypeOnly();
 };
 
 void tst_SoFieldTextCheck::aWholeValueIsAccepted_data()
@@ -233,6 +235,17 @@ void tst_SoFieldTextCheck::aNamedNodeInTheTextIsForgottenAgain()
     const SoSFNode field;
     QVERIFY(SoFieldTextCheck::accepts(field, "DEF onlyAsked Cube { }"));
     QVERIFY(!SoNode::getByName("onlyAsked"));
+}
+
+void tst_SoFieldTextCheck::aPartOfANodeKitTakesNodesOfItsTypeOnly()
+{
+    auto* const kit = new SoShapeKit;
+    kit->ref();
+    const SoField& part = *kit->getField("transform");
+    QVERIFY(SoFieldTextCheck::accepts(part, "Transform { }"));
+    QVERIFY(SoFieldTextCheck::accepts(part, "NULL"));
+    QVERIFY(!SoFieldTextCheck::accepts(part, "Cube { }"));
+    kit->unref();
 }
 
 TAVRIK_TEST_MAIN(tst_SoFieldTextCheck)

@@ -9,6 +9,67 @@
 
 #include <dlfcn.h>
 
+#include <algorithm>
+#include <set>
+
+namespace {
+
+/** In order of construction: the docks choose among the editors in this order. */
+const char* const s_constructed[] = {
+    "DvSFBitMaskWidget",     "DvSFBoolWidget",   "DvSFBox3sWidget",          "DvSFColorWidget",
+    "DvSFEnumWidget",        "DvSFDoubleWidget", "DvSFFilePathStringWidget", "DvSFFloatWidget",
+    "DvSFImageWidget",       "DvSFInt32Widget",  "DvSFLineWidget",           "DvSFMatrixWidget",
+    "DvSFNameWidget",        "DvSFPlaneWidget",  "DvSFRotationWidget",       "DvSFShortWidget",
+    "DvSFStringWidget",      "DvSFUInt32Widget", "DvSFUShortWidget",         "DvSFVec2fWidget",
+    "DvSFVec2i32Widget",     "DvSFVec2sWidget",  "DvSFVec3fWidget",          "DvSFVec4fWidget",
+    "TvkFieldEditorDockWin",
+};
+
+/** In order of registration, and the field type of each; the dock has none. */
+const std::pair<const char*, const char*> s_registered[] = {
+    {"DvSFFilePathStringWidget", "SFFilePathString"},
+    {"DvSFBitMaskWidget", "SFBitMask"},
+    {"DvSFBoolWidget", "SFBool"},
+    {"DvSFBox3sWidget", "SFBox3s"},
+    {"DvSFColorWidget", "SFColor"},
+    {"DvSFEnumWidget", "SFEnum"},
+    {"DvSFDoubleWidget", "SFDouble"},
+    {"DvSFFloatWidget", "SFFloat"},
+    {"DvSFImageWidget", "SFImage"},
+    {"DvSFInt32Widget", "SFInt32"},
+    {"DvSFLineWidget", "SField"},
+    {"DvSFMatrixWidget", "SFMatrix"},
+    {"DvSFNameWidget", "SFName"},
+    {"DvSFPlaneWidget", "SFPlane"},
+    {"DvSFRotationWidget", "SFRotation"},
+    {"DvSFShortWidget", "SFShort"},
+    {"DvSFStringWidget", "SFString"},
+    {"DvSFUInt32Widget", "SFUInt32"},
+    {"DvSFUShortWidget", "SFUShort"},
+    {"DvSFVec2fWidget", "SFVec2f"},
+    {"DvSFVec2i32Widget", "SFVec2i32"},
+    {"DvSFVec2sWidget", "SFVec2s"},
+    {"DvSFVec3fWidget", "SFVec3f"},
+    {"DvSFVec4fWidget", "SFVec4f"},
+    {"TvkFieldEditorDockWin", ""},
+};
+
+QStringList namesOf(const std::vector<TvkExtension*>& extensions)
+{
+    QStringList names;
+    for (const TvkExtension* extension : extensions)
+        names << extension->objectName();
+    return names;
+}
+
+QByteArray handledTypeOf(TvkExtension* extension)
+{
+    auto* const editor = qobject_cast<TvkEditor*>(extension);
+    return editor ? editor->getHandledType().getName().getString() : "";
+}
+
+} // namespace
+
 /** The plug-in library as a host sees it: a file with two functions. */
 class tst_TvkDefaults : public QObject
 {
@@ -82,11 +143,10 @@ private slots:
         TvkPlugin* const plugin = m_load();
         QVERIFY(plugin->getExtensions().empty());
         plugin->load();
-        QStringList names;
-        for (const TvkExtension* extension : plugin->getExtensions())
-            names << extension->objectName();
-        QCOMPARE(names, QStringList({"DvSFBoolWidget", "DvSFLineWidget", "DvSFVec3fWidget",
-                                     "TvkFieldEditorDockWin"}));
+        QStringList expected;
+        for (const auto& [name, type] : s_registered)
+            expected << QString(name);
+        QCOMPARE(namesOf(plugin->getExtensions()), expected);
         QVERIFY(plugin->isLoaded());
         plugin->unload();
         m_unload();
@@ -105,19 +165,71 @@ private slots:
         m_unload();
     }
 
-    void noEditorHandlesABadType()
+    void keepsTheFilePathEditorApartFromTheOtherSingleValueOnes()
     {
         TvkPlugin* const plugin = m_load();
         plugin->load();
-        int editors = 0;
+        QCOMPARE(plugin->getExtensions().front()->objectName(),
+                 QStringLiteral("DvSFFilePathStringWidget"));
+        m_unload();
+    }
+
+    /** The plug-in holds its extensions as members: they lie in the order of their making. */
+    void makesItsExtensionsInOrder()
+    {
+        TvkPlugin* const plugin = m_load();
+        plugin->load();
+        std::vector<TvkExtension*> made = plugin->getExtensions();
+        std::sort(made.begin(), made.end(), std::less<TvkExtension*>());
+        QStringList expected;
+        for (const char* name : s_constructed)
+            expected << QString(name);
+        QCOMPARE(namesOf(made), expected);
+        m_unload();
+    }
+
+    void everyEditorHandlesATypeOfItsOwn()
+    {
+        TvkPlugin* const plugin = m_load();
+        plugin->load();
+        const std::vector<TvkExtension*>& extensions = plugin->getExtensions();
+        std::set<QByteArray> types;
+        for (std::size_t i = 0; i < extensions.size(); ++i) {
+            QCOMPARE(handledTypeOf(extensions[i]), QByteArray(s_registered[i].second));
+            types.insert(handledTypeOf(extensions[i]));
+        }
+        QCOMPARE(types.size(), extensions.size());
+        m_unload();
+    }
+
+    void buildsNoWidgetsBeforeTheHostAsksForThem()
+    {
+        TvkPlugin* const plugin = m_load();
+        plugin->load();
         for (TvkExtension* extension : plugin->getExtensions()) {
-            if (auto* const editor = qobject_cast<TvkEditor*>(extension)) {
-                QVERIFY(!editor->getHandledType().isBad());
-                ++editors;
+            if (const auto* const editor = qobject_cast<TvkEditor*>(extension)) {
+                QVERIFY(!editor->getWidget()->layout());
+                QVERIFY(!editor->getWidget()->parent());
             }
         }
-        QCOMPARE(editors, 3);
         m_unload();
+    }
+
+    void unloadingDestroysTheExtensionsInReverseOrder()
+    {
+        TvkPlugin* const plugin = m_load();
+        plugin->load();
+        QStringList destroyed;
+        for (TvkExtension* extension : plugin->getExtensions()) {
+            const QString name = extension->objectName();
+            connect(extension, &QObject::destroyed,
+                    [&destroyed, name] { destroyed.prepend(name); });
+        }
+        m_unload();
+        QStringList expected;
+        for (const char* name : s_constructed)
+            expected << QString(name);
+        QCOMPARE(destroyed, expected);
     }
 };
 

@@ -26,6 +26,8 @@ public:
         layout->addWidget(other);
         editor.createWidgets();
         layout->addWidget(editor.getWidget());
+        // As wide as a dock: the editor is shown only later, and would get its smallest size.
+        window.resize(480, 320);
         window.show();
         QApplication::setActiveWindow(&window);
         edit();
@@ -48,6 +50,15 @@ public:
         SoTypedObject object(field);
         editor.setEditedObject(&object);
         editor.activate();
+        // Some editors get other widgets with each field.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    }
+
+    /** Goes on to another field, of this node or of any other. */
+    void edit(SoField& another)
+    {
+        field = &another;
+        edit();
     }
 
     void killNode()

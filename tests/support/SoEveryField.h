@@ -1,5 +1,7 @@
 #pragma once
 
+#include "scenegraph/SoSFFilePathString.h"
+
 #include <Inventor/fields/SoFields.h>
 #include <Inventor/nodes/SoSubNode.h>
 
@@ -10,15 +12,44 @@ class SoEveryField : public SoNode
     SO_NODE_HEADER(SoEveryField);
 
 public:
+    enum Choice { FIRST = 1, SECOND = 2, THIRD = 7 };
+    enum Part { SIDES = 1, TOP = 2, BOTTOM = 4, ALL = 7 };
+
     static void initClass();
     SoEveryField();
 
+    SoSFBitMask sfBitMask;
     SoSFBool sfBool;
-    SoSFVec3f sfVec3f;
-    SoSFTime sfTime;
-    SoSFVec3d sfVec3d;
+    SoSFBox3s sfBox3s;
+    SoSFColor sfColor;
+    SoSFDouble sfDouble;
+    SoSFEnum sfEnum;
+    SoSFFilePathString sfFilePathString;
+    SoSFFloat sfFloat;
+    SoSFImage sfImage;
+    SoSFInt32 sfInt32;
+    SoSFMatrix sfMatrix;
+    SoSFName sfName;
     SoSFNode sfNode;
+    SoSFPlane sfPlane;
+    SoSFRotation sfRotation;
+    SoSFShort sfShort;
+    SoSFString sfString;
+    SoSFTime sfTime;
+    SoSFUInt32 sfUInt32;
+    SoSFUShort sfUShort;
+    SoSFVec2f sfVec2f;
+    SoSFVec2i32 sfVec2i32;
+    SoSFVec2s sfVec2s;
+    SoSFVec3d sfVec3d;
+    SoSFVec3f sfVec3f;
+    SoSFVec4f sfVec4f;
 
 protected:
     ~SoEveryField() override;
+
+private:
+    void addEnums();
+    void addNumbers();
+    void addVectors();
 };

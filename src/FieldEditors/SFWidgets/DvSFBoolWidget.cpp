@@ -7,7 +7,8 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 
-DvSFBoolWidget::DvSFBoolWidget() : DvSFieldWidget(QStringLiteral("DvSFBoolWidget"))
+DvSFBoolWidget::DvSFBoolWidget()
+    : DvSFieldWidget(DvSlider::NoKind, QStringLiteral("DvSFBoolWidget"))
 {
     m_handledType = SoSFBool::getClassTypeId();
 }
@@ -19,7 +20,7 @@ void DvSFBoolWidget::buildEditor(QHBoxLayout& editLayout)
     m_box->setFixedSize(DvLayoutConstants::value("SFBoolWidth"),
                         DvLayoutConstants::value("SFComponentHeight"));
     m_box->setAccessibleName(tr("Value"));
-    editLayout.addWidget(m_box);
+    editLayout.addWidget(m_box, 1, Qt::AlignLeft | Qt::AlignVCenter);
     connect(m_box, SIGNAL(clicked()), this, SLOT(setCommandValue()));
 }
 

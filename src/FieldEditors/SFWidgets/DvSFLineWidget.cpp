@@ -12,7 +12,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
-DvSFLineWidget::DvSFLineWidget(const QString& objectName) : DvSFieldWidget(objectName)
+DvSFLineWidget::DvSFLineWidget(const QString& objectName)
+    : DvSFieldWidget(DvSlider::NoKind, objectName)
 {
     m_handledType = SoSField::getClassTypeId();
 }

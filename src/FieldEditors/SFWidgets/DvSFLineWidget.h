@@ -34,9 +34,11 @@ protected:
     void buildEditor(QHBoxLayout& editLayout) override;
     void fieldReplaced() override;
     void clearPendingEdit() override;
+    /** What the line's signals do. */
+    virtual void connectLine();
+    DvLineEdit& line() const { return *m_line; }
 
 private:
-    void connectLine();
     bool holdsObject() const;
     void write(const QString& text);
     void markAccepted(bool accepted);

@@ -2,13 +2,9 @@
 
 namespace {
 
-const DvLinesForm s_form = {"SFVec3fLayout",
-                            "SFVec3fLabel",
-                            "SFVec3fLine",
-                            "SF3fBoxVSpacing",
-                            "SF3fBoxHSpacing",
-                            "SF3fBoxHMargin",
-                            {"<p>x</p>", "<p>y</p>", "<p>z</p>"}};
+const DvLinesForm s_form = {
+    nullptr,           "SFVec3fLayout",   "SFVec3fLabel",   "SFVec3fLine",
+    "SF3fBoxVSpacing", "SF3fBoxHSpacing", "SF3fBoxHMargin", {"<p>x</p>", "<p>y</p>", "<p>z</p>"}};
 
 }
 

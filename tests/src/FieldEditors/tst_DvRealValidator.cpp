@@ -26,6 +26,10 @@ const Verdict s_verdicts[] = {
     {".5", s_good, ".5"},
     {"1.123456", s_good, "1.123456"},
     {"1.1234567", s_bad, "1.1234567"}, // six decimals
+    {"0.1234567", s_bad, "0.1234567"},
+    {"0.000123457", s_good, "0.000123457"}, // six digits, as a small number is shown
+    {"-0.0000001", s_good, "-0.0000001"},
+    {"0.00012345678", s_bad, "0.00012345678"},
     {"1e5", s_good, "1e5"},
     {"1e", s_open, "1e"},
     {"1E-7", s_good, "1E-7"},

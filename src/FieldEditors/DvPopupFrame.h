@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QFrame>
+
+/** A frame that pops up beside a widget, whole on the screen, and closes on Escape and on a click
+ *  elsewhere. */
+class DvPopupFrame final : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit DvPopupFrame(QWidget* parent);
+
+    /** Shows the frame below the widget, or above it where there is no room. */
+    void popUpBeside(const QWidget& widget);
+
+signals:
+    void aboutToClose();
+
+protected:
+    void hideEvent(QHideEvent* event) override;
+};

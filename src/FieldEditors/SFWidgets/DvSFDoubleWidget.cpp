@@ -1,0 +1,3 @@
+#include "FieldEditors/SFWidgets/DvSFDoubleWidget.h"
+
+DvSFDoubleWidget::DvSFDoubleWidget() : DvSFSliderWidget(QStringLiteral("DvSFDoubleWidget")) {}

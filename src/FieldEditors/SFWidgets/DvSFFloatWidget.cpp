@@ -1,0 +1,3 @@
+#include "FieldEditors/SFWidgets/DvSFFloatWidget.h"
+
+DvSFFloatWidget::DvSFFloatWidget() : DvSFSliderWidget(QStringLiteral("DvSFFloatWidget")) {}

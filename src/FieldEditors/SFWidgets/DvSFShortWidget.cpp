@@ -1,0 +1,3 @@
+#include "FieldEditors/SFWidgets/DvSFShortWidget.h"
+
+DvSFShortWidget::DvSFShortWidget() : DvSFSliderWidget(QStringLiteral("DvSFShortWidget")) {}

@@ -1,0 +1,3 @@
+#include "FieldEditors/SFWidgets/DvSFStringWidget.h"
+
+DvSFStringWidget::DvSFStringWidget() : DvSFTextWidget(QStringLiteral("DvSFStringWidget")) {}

@@ -1,0 +1,3 @@
+#include "FieldEditors/SFWidgets/DvSFUInt32Widget.h"
+
+DvSFUInt32Widget::DvSFUInt32Widget() : DvSFSliderWidget(QStringLiteral("DvSFUInt32Widget")) {}

@@ -1,0 +1,3 @@
+#include "FieldEditors/SFWidgets/DvSFUShortWidget.h"
+
+DvSFUShortWidget::DvSFUShortWidget() : DvSFSliderWidget(QStringLiteral("DvSFUShortWidget")) {}

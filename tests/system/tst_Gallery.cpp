@@ -1,0 +1,90 @@
+#include "tests/support/TestMain.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+
+namespace {
+
+constexpr int s_width = 320; ///< of a picture without a pop-up, before scaling
+constexpr int s_editors = 24;
+
+int colorsIn(const QImage& picture)
+{
+    QSet<QRgb> colors;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            colors << picture.pixel(x, y);
+    }
+    return colors.size();
+}
+
+} // namespace
+
+/** The pictures of the editors, as the program makes them. */
+class tst_Gallery : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+
+    int run(const QStringList& arguments, const QString& scale, QString* errors = nullptr) const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_SCALE_FACTOR"), scale);
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_folder.filePath("settings"));
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(TAVRIK_PROGRAM), arguments);
+        if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
+            return -1;
+        if (errors)
+            *errors = QString::fromLocal8Bit(process.readAllStandardError());
+        return process.exitCode();
+    }
+
+private slots:
+    void initTestCase() { QVERIFY(m_folder.isValid()); }
+
+    void everyEditorHasAPictureInBothPalettes_data()
+    {
+        QTest::addColumn<int>("scale");
+        QTest::newRow("scale 1") << 1;
+        QTest::newRow("scale 2") << 2;
+    }
+    void everyEditorHasAPictureInBothPalettes()
+    {
+        QFETCH(int, scale);
+        const QString factor = QString::number(scale);
+        const QDir folder(m_folder.filePath(factor));
+        QString errors;
+        QVERIFY2(run({"--gallery", folder.path()}, factor, &errors) == 0, qPrintable(errors));
+        for (const char* palette : {"light", "dark"}) {
+            const QString ending = QStringLiteral("-%1-%2x.png").arg(palette, factor);
+            QVERIFY(folder.exists("sheet" + ending));
+            const QStringList names = folder.entryList({"DvSF*Widget" + ending});
+            QCOMPARE(names.size(), s_editors);
+            for (const QString& name : names) {
+                const QImage picture(folder.filePath(name));
+                QVERIFY2(picture.width() >= s_width * scale, qPrintable(name));
+                QVERIFY2(colorsIn(picture) > 20, qPrintable(name));
+            }
+        }
+    }
+
+    void aFolderThatCannotBeMadeIsAFailure()
+    {
+        QFile file(m_folder.filePath("file"));
+        QVERIFY(file.open(QFile::WriteOnly));
+        QString errors;
+        QCOMPARE(run({"--gallery", file.fileName() + "/folder"}, "1", &errors), 1);
+        QVERIFY2(errors.contains("cannot be made"), qPrintable(errors));
+    }
+
+    void aGalleryWithoutAFolderIsRefused() { QCOMPARE(run({"--gallery", ""}, "1"), 2); }
+};
+
+TAVRIK_TEST_MAIN(tst_Gallery)
+#include "tst_Gallery.moc"

@@ -167,7 +167,7 @@ bool setEmptyImage(SoField* field, const SbString& text)
 template <class Field, class Real>
 bool setRealIf(SoField* field, const SbString& text)
 {
-    Field* const typed = as<Field>(field);
+    auto* const typed = as<Field>(field);
     if (!typed)
         return false;
     const char* const end = text.getString() + text.getLength();

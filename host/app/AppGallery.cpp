@@ -62,7 +62,8 @@ void paintImage(SoSFImage& field)
             pixels.append(char(qRed(color))).append(char(qGreen(color))).append(char(qBlue(color)));
         }
     }
-    field.setValue(size, 3, reinterpret_cast<const unsigned char*>(pixels.constData()));
+    const QVector<unsigned char> bytes(pixels.begin(), pixels.end());
+    field.setValue(size, 3, bytes.constData());
 }
 
 SoNode* child(const SoSeparator& scene, const char* name)
@@ -83,7 +84,7 @@ QString scaleName(const QWidget& widget)
 QImage below(const QImage& upper, const QImage& lower, const QColor& background)
 {
     const qreal scale = upper.devicePixelRatio();
-    const int gap = qRound(s_gap / 3 * scale);
+    const int gap = qRound(s_gap * scale / 3);
     const int width = qMax(upper.width(), lower.width());
     QImage both(width, upper.height() + gap + lower.height(), QImage::Format_RGB32);
     both.fill(background);
@@ -195,7 +196,7 @@ bool AppGallery::take(const Exhibit& exhibit, const char* palette)
 QImage AppGallery::pictureOf(QWidget& editor) const
 {
     editor.resize(s_width, editor.minimumSizeHint().height());
-    const QImage image = grab(editor);
+    QImage image = grab(editor);
     auto* const button = editor.findChild<QPushButton*>(QStringLiteral("m_editButton"));
     if (!button) {
         return image;

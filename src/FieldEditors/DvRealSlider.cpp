@@ -76,7 +76,8 @@ int DvRealSlider::positionOf(double value) const
         return 0;
     const double bottom = m_minimum * scale();
     const double above = std::clamp(value, m_minimum, m_maximum) * scale() - bottom;
-    return static_cast<int>(above * s_lastPosition / (m_maximum * scale() - bottom) + 0.5);
+    const double exact = above * s_lastPosition / (m_maximum * scale() - bottom);
+    return static_cast<int>(std::floor(exact + 0.5));
 }
 
 void DvRealSlider::updateValueFromPosition(int position)
@@ -128,7 +129,7 @@ QString DvRealSlider::valueText() const
     // Qt writes it without its sign.
     if (m_value == 0.0 && std::signbit(m_value))
         return QStringLiteral("-0");
-    const QString shown = format(m_value);
+    QString shown = format(m_value);
     bool parsed = false;
     const double read = shown.toDouble(&parsed);
     if (parsed && toType(read) == m_value)

@@ -66,6 +66,8 @@ private:
     /** To the last bit: -0 is not 0, and a component that is no number is the same as itself. */
     static bool isSame(const typename View::Numbers& one, const typename View::Numbers& other)
     {
+        // The bytes are what is asked about.
+        // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison,cert-exp42-c,cert-flp37-c)
         return std::memcmp(one.data(), other.data(), sizeof(one)) == 0;
     }
 };

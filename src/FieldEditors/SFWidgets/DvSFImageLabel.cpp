@@ -41,9 +41,10 @@ void copyRow(QImage& picture, int y, const unsigned char* pixels, int components
         std::copy(pixels, pixels + picture.width(), picture.scanLine(y));
         return;
     }
-    auto* const line = reinterpret_cast<QRgb*>(picture.scanLine(y));
-    for (int x = 0; x < picture.width(); ++x)
-        line[x] = colorOf(pixels + x * components, components);
+    // Which is how Qt hands out the pixels of 32 bits.
+    auto* const line = reinterpret_cast<QRgb*>(picture.scanLine(y)); // NOLINT(*-reinterpret-cast)
+    for (int x = 0; x < picture.width(); ++x, pixels += components)
+        line[x] = colorOf(pixels, components);
 }
 
 } // namespace

@@ -53,12 +53,8 @@ int runGallery(const QString& folder)
     return passed ? Done : Failed;
 }
 
-int show(const AppArguments& arguments)
+int showWindow(const AppArguments& arguments)
 {
-    SoTavrik::init();
-    if (!arguments.galleryFolder.isEmpty()) {
-        return runGallery(arguments.galleryFolder);
-    }
     AppWindow window;
     window.loadPlugins(HostPluginLoader::pluginDirectory());
     window.restoreLayout();
@@ -67,6 +63,18 @@ int show(const AppArguments& arguments)
     if (arguments.tourFolder.isEmpty())
         return QApplication::exec();
     return opened ? runTour(window, arguments.tourFolder) : Failed;
+}
+
+int show(const AppArguments& arguments)
+{
+    SoTavrik::init();
+    if (!arguments.galleryFolder.isEmpty())
+        return runGallery(arguments.galleryFolder);
+    const int result = showWindow(arguments);
+    // The tour ends with every editor there is, in a window without a scene.
+    if (result != Done || arguments.tourFolder.isEmpty())
+        return result;
+    return runGallery(arguments.tourFolder + QStringLiteral("/editors"));
 }
 
 } // namespace

@@ -103,6 +103,8 @@ void tst_Program::theTourWritesAPictureOfEachStep()
     const QString folder = m_folder.filePath("tour");
     const Result result = run({"--tour", folder, QStringLiteral(TAVRIK_EXAMPLE)});
     QVERIFY2(result.code == 0, qPrintable(result.errors));
+    // At its end, every editor in two palettes, and a sheet of each.
+    QCOMPARE(QDir(folder + "/editors").entryList({"*.png"}).size(), 2 * 25);
     const QStringList pictures = QDir(folder).entryList({"*.png"});
     QCOMPARE(pictures.size(), 9);
     QImage last;

@@ -3,7 +3,9 @@
 #include "scenegraph/SoQuotedText.h"
 
 #include <Inventor/fields/SoMFColorRGBA.h>
+#include <Inventor/fields/SoMFDouble.h>
 #include <Inventor/fields/SoMFEngine.h>
+#include <Inventor/fields/SoMFFloat.h>
 #include <Inventor/fields/SoMFName.h>
 #include <Inventor/fields/SoMFNode.h>
 #include <Inventor/fields/SoMFString.h>
@@ -22,6 +24,7 @@
 
 #include <array>
 #include <charconv>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -164,19 +167,39 @@ bool setEmptyImage(SoField* field, const SbString& text)
 }
 
 /** A real number, to the last bit; Coin's reader knows neither the extremes nor what is none. */
+template <class Real>
+std::optional<Real> realOf(const SbString& text)
+{
+    const char* const end = text.getString() + text.getLength();
+    Real number = 0;
+    const auto [rest, error] = std::from_chars(text.getString(), end, number);
+    return error == std::errc() && rest == end ? std::optional<Real>(number) : std::nullopt;
+}
+
 template <class Field, class Real>
 bool setRealIf(SoField* field, const SbString& text)
 {
     auto* const typed = as<Field>(field);
-    if (!typed)
-        return false;
-    const char* const end = text.getString() + text.getLength();
-    Real number = 0;
-    const auto [rest, error] = std::from_chars(text.getString(), end, number);
-    const bool isNumber = error == std::errc() && rest == end;
-    if (isNumber)
-        typed->setValue(number);
-    return isNumber;
+    const std::optional<Real> number = typed ? realOf<Real>(text) : std::nullopt;
+    if (number)
+        typed->setValue(*number);
+    return number.has_value();
+}
+
+template <class Field, class Real>
+bool set1RealIf(SoMField* field, int row, const SbString& text)
+{
+    auto* const typed = as<Field>(field);
+    const std::optional<Real> number = typed ? realOf<Real>(text) : std::nullopt;
+    if (number)
+        typed->set1Value(row, *number);
+    return number.has_value();
+}
+
+bool set1Real(SoMField* field, int row, const SbString& text)
+{
+    return set1RealIf<SoMFFloat, float>(field, row, text) ||
+           set1RealIf<SoMFDouble, double>(field, row, text);
 }
 
 bool setReal(SoField* field, const SbString& text)
@@ -210,7 +233,7 @@ bool set1Exactly(SoMField* field, int row, const SbString& text)
         return set1String(field, row, text);
     if (isNull(text))
         return set1Null(field, row);
-    return set1Color(field, row, text);
+    return set1Real(field, row, text) || set1Color(field, row, text);
 }
 
 /** Longer than the shortest text of any number. */

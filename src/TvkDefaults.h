@@ -1,5 +1,22 @@
 #pragma once
 
+#include "FieldEditors/MFWidgets/DvMFColorWidget.h"
+#include "FieldEditors/MFWidgets/DvMFDefaultFieldWidget.h"
+#include "FieldEditors/MFWidgets/DvMFDoubleWidget.h"
+#include "FieldEditors/MFWidgets/DvMFFloatWidget.h"
+#include "FieldEditors/MFWidgets/DvMFInt32Widget.h"
+#include "FieldEditors/MFWidgets/DvMFMatrixWidget.h"
+#include "FieldEditors/MFWidgets/DvMFPlaneWidget.h"
+#include "FieldEditors/MFWidgets/DvMFRotationWidget.h"
+#include "FieldEditors/MFWidgets/DvMFShortWidget.h"
+#include "FieldEditors/MFWidgets/DvMFStringWidget.h"
+#include "FieldEditors/MFWidgets/DvMFUInt32Widget.h"
+#include "FieldEditors/MFWidgets/DvMFUShortWidget.h"
+#include "FieldEditors/MFWidgets/DvMFVec2fWidget.h"
+#include "FieldEditors/MFWidgets/DvMFVec2i32Widget.h"
+#include "FieldEditors/MFWidgets/DvMFVec2sWidget.h"
+#include "FieldEditors/MFWidgets/DvMFVec3fWidget.h"
+#include "FieldEditors/MFWidgets/DvMFVec4fWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBitMaskWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBoolWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBox3sWidget.h"
@@ -39,6 +56,23 @@ public:
 
 private:
     // In order of construction. The docks choose among the editors in this order.
+    DvMFColorWidget m_mfColorWidget;
+    DvMFDefaultFieldWidget m_mfDefaultFieldWidget;
+    DvMFDoubleWidget m_mfDoubleWidget;
+    DvMFFloatWidget m_mfFloatWidget;
+    DvMFInt32Widget m_mfInt32Widget;
+    DvMFMatrixWidget m_mfMatrixWidget;
+    DvMFPlaneWidget m_mfPlaneWidget;
+    DvMFRotationWidget m_mfRotationWidget;
+    DvMFShortWidget m_mfShortWidget;
+    DvMFStringWidget m_mfStringWidget;
+    DvMFUInt32Widget m_mfUInt32Widget;
+    DvMFUShortWidget m_mfUShortWidget;
+    DvMFVec2fWidget m_mfVec2fWidget;
+    DvMFVec2i32Widget m_mfVec2i32Widget;
+    DvMFVec2sWidget m_mfVec2sWidget;
+    DvMFVec3fWidget m_mfVec3fWidget;
+    DvMFVec4fWidget m_mfVec4fWidget;
     DvSFBitMaskWidget m_sfBitMaskWidget;
     DvSFBoolWidget m_sfBoolWidget;
     DvSFBox3sWidget m_sfBox3sWidget;

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <vector>
+#include <ctime>
 
 namespace {
 
@@ -30,6 +30,29 @@ private:
     bool m_painted = false;
 };
 
+double middle(std::vector<double>& times)
+{
+    const auto found = times.begin() + long(times.size() / 2);
+    std::nth_element(times.begin(), found, times.end());
+    return *found;
+}
+
+double processorTime()
+{
+    timespec time = {};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
+}
+
+double processorTime(const Bench::Work& work)
+{
+    if (work.prepare)
+        work.prepare();
+    const double start = processorTime();
+    work.run();
+    return processorTime() - start;
+}
+
 void print(const char* name, double ratio, const char* relation, double aim, bool isReached)
 {
     std::printf("%s\t%.3g\t%s %g\t%s\n", name, ratio, relation, aim, isReached ? "ok" : "short");
@@ -50,9 +73,20 @@ double Bench::median(int runs, const std::function<void()>& run,
         run();
         seconds.push_back(double(timer.nsecsElapsed()) * 1e-9);
     }
-    const auto middle = seconds.begin() + long(seconds.size() / 2);
-    std::nth_element(seconds.begin(), middle, seconds.end());
-    return *middle;
+    return middle(seconds);
+}
+
+std::vector<double> Bench::medians(int runs, const std::vector<Work>& works)
+{
+    std::vector<std::vector<double>> times(works.size());
+    for (int i = 0; i < runs; ++i) {
+        for (std::size_t work = 0; work < works.size(); ++work)
+            times[work].push_back(processorTime(works[work]));
+    }
+    std::vector<double> found;
+    for (std::vector<double>& each : times)
+        found.push_back(middle(each));
+    return found;
 }
 
 bool Bench::waitForPaint(QWidget& widget)

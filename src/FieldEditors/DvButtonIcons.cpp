@@ -238,6 +238,144 @@ const char* const s_editIcon[] = {
     "                ",
     "                ",
 };
+const char* const s_addRowIcon[] = {
+    "16 16 15 1",
+    "  c None",
+    ". c #25772F",
+    "+ c #277B31",
+    "@ c #298033",
+    "# c #2A8535",
+    "$ c #2C8A37",
+    "% c #2C8B37",
+    "& c #2E8F39",
+    "* c #2F943B",
+    "= c #31983D",
+    "- c #31993D",
+    "; c #339E3F",
+    "> c #34A342",
+    ", c #36A844",
+    "' c #38AD46",
+    "                ",
+    "                ",
+    "      ''''      ",
+    "      ,,,,      ",
+    "      >>>>      ",
+    "      ;;;;      ",
+    "  ====----====  ",
+    "  ************  ",
+    "  &&&&&&&&&&&&  ",
+    "  %%%%$$$$%%%%  ",
+    "      ####      ",
+    "      @@@@      ",
+    "      ++++      ",
+    "      ....      ",
+    "                ",
+    "                ",
+};
+
+const char* const s_deleteRowIcon[] = {
+    "16 16 5 1",
+    "  c None",
+    ". c #A6342C",
+    "+ c #AB352E",
+    "@ c #B2372F",
+    "# c #B73931",
+    "                ",
+    "                ",
+    "                ",
+    "                ",
+    "                ",
+    "                ",
+    "  ############  ",
+    "  @@@@@@@@@@@@  ",
+    "  ++++++++++++  ",
+    "  ............  ",
+    "                ",
+    "                ",
+    "                ",
+    "                ",
+    "                ",
+    "                ",
+};
+
+const char* const s_rowUpIcon[] = {
+    "16 16 19 1",
+    "  c None",
+    ". c #2B5E90",
+    "+ c #2D6296",
+    "@ c #2F659B",
+    "# c #3169A1",
+    "$ c #336CA7",
+    "% c #356FAC",
+    "& c #3670AD",
+    "* c #3670AE",
+    "= c #3772B1",
+    "- c #3773B2",
+    "; c #3975B6",
+    "> c #3976B7",
+    ", c #3B79BC",
+    "' c #3B79BD",
+    ") c #3D7CC2",
+    "! c #3D7DC3",
+    "~ c #3F80C8",
+    "{ c #4183CD",
+    "                ",
+    "                ",
+    "       {{       ",
+    "      ~~~~      ",
+    "     )!!!!)     ",
+    "    ,'''''',    ",
+    "   ;>>>>>>>>;   ",
+    "  =----------=  ",
+    "  ***&%%%%&***  ",
+    "      $$$$      ",
+    "      ####      ",
+    "      @@@@      ",
+    "      ++++      ",
+    "      ....      ",
+    "                ",
+    "                ",
+};
+
+const char* const s_rowDownIcon[] = {
+    "16 16 20 1",
+    "  c None",
+    ". c #2C5F91",
+    "+ c #2D6296",
+    "@ c #2E6296",
+    "# c #2F659B",
+    "$ c #30669C",
+    "% c #3169A1",
+    "& c #3269A2",
+    "* c #336CA7",
+    "= c #346DA8",
+    "- c #356FAC",
+    "; c #3670AD",
+    "> c #3772B0",
+    ", c #3772B1",
+    "' c #3773B2",
+    ") c #3976B7",
+    "! c #3B79BD",
+    "~ c #3D7DC3",
+    "{ c #3F80C8",
+    "] c #4184CE",
+    "                ",
+    "                ",
+    "      ]]]]      ",
+    "      {{{{      ",
+    "      ~~~~      ",
+    "      !!!!      ",
+    "      ))))      ",
+    "  >>>,'''',>>>  ",
+    "  ;----------;  ",
+    "   =********=   ",
+    "    &%%%%%%&    ",
+    "     $####$     ",
+    "      @++@      ",
+    "       ..       ",
+    "                ",
+    "                ",
+};
 // clang-format on
 
 } // namespace
@@ -257,5 +395,29 @@ const QIcon& DvButtonIcons::ignore()
 const QIcon& DvButtonIcons::edit()
 {
     static const QIcon icon{QPixmap(s_editIcon)};
+    return icon;
+}
+
+const QIcon& DvButtonIcons::addRow()
+{
+    static const QIcon icon{QPixmap(s_addRowIcon)};
+    return icon;
+}
+
+const QIcon& DvButtonIcons::deleteRow()
+{
+    static const QIcon icon{QPixmap(s_deleteRowIcon)};
+    return icon;
+}
+
+const QIcon& DvButtonIcons::rowUp()
+{
+    static const QIcon icon{QPixmap(s_rowUpIcon)};
+    return icon;
+}
+
+const QIcon& DvButtonIcons::rowDown()
+{
+    static const QIcon icon{QPixmap(s_rowDownIcon)};
     return icon;
 }

@@ -10,4 +10,8 @@ public:
     static const QIcon& ignore();
     /** Of the buttons that pop up an editor. */
     static const QIcon& edit();
+    static const QIcon& addRow();
+    static const QIcon& deleteRow();
+    static const QIcon& rowUp();
+    static const QIcon& rowDown();
 };

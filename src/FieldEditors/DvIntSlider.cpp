@@ -34,6 +34,11 @@ void DvIntSlider::setRange(int minimum, int maximum, bool bounded)
     moveToPosition();
 }
 
+void DvIntSlider::setCellRange(double minimum, double maximum, bool bounded)
+{
+    setRange(static_cast<int>(minimum), static_cast<int>(maximum), bounded);
+}
+
 void DvIntSlider::setValue(int value)
 {
     const int clamped = toType(value);

@@ -24,6 +24,7 @@ public:
     /** 10, or what the first text entered has announced: 8 or 16. For showing only. */
     int base() const { return m_base; }
     QString valueText() const override;
+    void setCellRange(double minimum, double maximum, bool bounded) override;
 
     /** Reads the base off the first text that is entered, and takes the text as the value. */
     void onTextEntered(const QString& text) override;

@@ -47,6 +47,11 @@ void DvRealSlider::setRange(double minimum, double maximum, bool bounded)
     moveToPosition();
 }
 
+void DvRealSlider::setCellRange(double minimum, double maximum, bool bounded)
+{
+    setRange(minimum, maximum, bounded);
+}
+
 void DvRealSlider::setValue(double value)
 {
     takeIn(value);

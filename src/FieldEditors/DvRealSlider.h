@@ -24,6 +24,7 @@ public:
     double maximum() const { return m_maximum; }
     bool isBounded() const { return m_bounded; }
     QString valueText() const override;
+    void setCellRange(double minimum, double maximum, bool bounded) override;
 
 protected:
     void updateText() override;

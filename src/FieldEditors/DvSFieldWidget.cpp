@@ -2,6 +2,7 @@
 
 #include "FieldEditors/DvButtonIcons.h"
 #include "FieldEditors/DvDefaultValue.h"
+#include "FieldEditors/DvEditorParts.h"
 #include "FieldEditors/DvLayoutConstants.h"
 #include "FieldEditors/TvkFieldIgnoredCommand.h"
 #include "FieldEditors/TvkSFSetValueCommand.h"
@@ -20,26 +21,6 @@ namespace {
 int constant(const char* name)
 {
     return DvLayoutConstants::value(name);
-}
-
-QHBoxLayout* newRow(const char* objectName, const char* margin, const char* spacing)
-{
-    auto* const row = new QHBoxLayout;
-    const int width = constant(margin);
-    row->setObjectName(QLatin1String(objectName));
-    row->setContentsMargins(width, width, width, width);
-    row->setSpacing(constant(spacing));
-    return row;
-}
-
-QPushButton* newButton(const char* objectName, const QIcon& icon, QWidget* parent)
-{
-    auto* const button = new QPushButton(parent);
-    button->setObjectName(QLatin1String(objectName));
-    button->setMaximumSize(constant("buttonWidth"), constant("buttonHeight"));
-    button->setIcon(icon);
-    button->setFocusPolicy(Qt::NoFocus);
-    return button;
 }
 
 } // namespace
@@ -66,7 +47,8 @@ void DvSFieldWidget::createWidgets()
     frame()->setFrameShape(QFrame::StyledPanel);
     frame()->setFrameShadow(QFrame::Plain);
     frame()->setLineWidth(constant("frameLineWidth"));
-    QHBoxLayout* const layout = newRow("SFieldLayout", "SFieldLayoutMargin", "SFieldLayoutSpacing");
+    QHBoxLayout* const layout =
+        DvEditorParts::newRow("SFieldLayout", "SFieldLayoutMargin", "SFieldLayoutSpacing");
     frame()->setLayout(layout);
     buildLabel(*layout);
     buildEditionArea(*layout);
@@ -85,33 +67,22 @@ QLabel* DvSFieldWidget::label()
 
 void DvSFieldWidget::buildLabel(QBoxLayout& layout)
 {
-    label()->setObjectName(QStringLiteral("m_label"));
-    QFont font = label()->font();
-    font.setPointSize(constant("labelPointSize"));
-    label()->setFont(font);
-    label()->setFrameShape(QFrame::Box);
-    label()->setFrameShadow(QFrame::Plain);
-    label()->setLineWidth(constant("labelLineWidth"));
-    label()->setScaledContents(true);
-    if (label()->text().isEmpty()) {
-        const QString type = QLatin1String(getHandledType().getName().getString());
-        label()->setText(QStringLiteral("<p align=\"center\">%1</p>").arg(type));
-    }
+    DvEditorParts::dressLabel(*label(), getHandledType().getName().getString());
     layout.addWidget(label());
     layout.addSpacerItem(new QSpacerItem(0, 0, QSizePolicy::Minimum));
 }
 
 void DvSFieldWidget::buildEditionArea(QBoxLayout& layout)
 {
-    QHBoxLayout* const area =
-        newRow("SFieldEditionAreaLayout", "SFEditionAreaLayMargin", "SFEditionAreaLaySpacing");
+    QHBoxLayout* const area = DvEditorParts::newRow(
+        "SFieldEditionAreaLayout", "SFEditionAreaLayMargin", "SFEditionAreaLaySpacing");
     auto* const editionFrame = new QFrame(frame());
     editionFrame->setObjectName(QStringLiteral("m_editionFrame"));
     editionFrame->setFrameShape(QFrame::Box);
     editionFrame->setFrameShadow(QFrame::Plain);
     editionFrame->setLineWidth(constant("frameLineWidth"));
     QHBoxLayout* const editLayout =
-        newRow("editLayout", "SFieldEditLayoutMargin", "SFieldEditLayoutSpacing");
+        DvEditorParts::newRow("editLayout", "SFieldEditLayoutMargin", "SFieldEditLayoutSpacing");
     editionFrame->setLayout(editLayout);
     buildEditor(*editLayout);
     area->addWidget(editionFrame);
@@ -122,9 +93,10 @@ void DvSFieldWidget::buildButtons(QBoxLayout& layout)
 {
     // Kept on purpose: this layout has the same object name as the one that it stands in.
     QHBoxLayout* const buttons =
-        newRow("SFieldLayout", "SFButtonLayoutMargin", "SFButtonLayoutSpacing");
-    m_defaultButton = newButton("m_defaultButton", DvButtonIcons::setToDefault(), frame());
-    m_ignoreButton = newButton("m_ignoreButton", DvButtonIcons::ignore(), frame());
+        DvEditorParts::newRow("SFieldLayout", "SFButtonLayoutMargin", "SFButtonLayoutSpacing");
+    m_defaultButton =
+        DvEditorParts::newButton("m_defaultButton", DvButtonIcons::setToDefault(), frame());
+    m_ignoreButton = DvEditorParts::newButton("m_ignoreButton", DvButtonIcons::ignore(), frame());
     m_ignoreButton->setCheckable(true);
     buttons->addWidget(m_defaultButton);
     buttons->addWidget(m_ignoreButton);

@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -82,6 +83,15 @@ void DvSlider::connectControls()
     connect(m_liveBox, SIGNAL(toggled(bool)), this, SLOT(eventNotify(bool)));
 }
 
+void DvSlider::keyPressEvent(QKeyEvent* event)
+{
+    // The keys that add and delete rows are the table's, which gets what its cells leave.
+    if (m_cellMode)
+        event->accept();
+    else
+        QFrame::keyPressEvent(event);
+}
+
 void DvSlider::onTextEntered(const QString&) {}
 
 void DvSlider::showText(const QString& text)
@@ -114,6 +124,16 @@ void DvSlider::takePendingEdit()
     if (!hasPendingEdit())
         return;
     onTextEntered(m_lineEdit->text());
+    updateValueFromText();
+    m_lineEdit->setModified(false);
+    updateText();
+    moveToPosition();
+}
+
+void DvSlider::showCellText(const QString& text)
+{
+    showText(text);
+    onTextEntered(text);
     updateValueFromText();
     m_lineEdit->setModified(false);
     updateText();

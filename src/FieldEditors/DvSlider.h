@@ -54,6 +54,7 @@ public slots:
     void valueChangeSlot(int newValue);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     DvSlider(int cellMode, DvSliderOwner& owner, QWidget* parent, int cellRow, int cellColumn);
 
     /** Writes the value into the line. */
@@ -68,6 +69,10 @@ protected:
 public:
     /** The value as the text that goes to a field: base 10, and exact. */
     virtual QString valueText() const = 0;
+    /** Starts with a range, for a cell; one of integers leaves the fractions out. */
+    virtual void setCellRange(double minimum, double maximum, bool bounded) = 0;
+    /** Shows a cell's text as the value; nothing is committed. */
+    void showCellText(const QString& text);
 
 protected:
     DvLineEdit& line() const { return *m_lineEdit; }

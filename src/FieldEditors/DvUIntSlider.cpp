@@ -45,6 +45,11 @@ void DvUIntSlider::setRange(unsigned minimum, unsigned maximum, bool bounded)
     moveToPosition();
 }
 
+void DvUIntSlider::setCellRange(double minimum, double maximum, bool bounded)
+{
+    setRange(static_cast<unsigned>(minimum), static_cast<unsigned>(maximum), bounded);
+}
+
 void DvUIntSlider::setValue(unsigned value)
 {
     const unsigned clamped = std::clamp(value, m_typeMinimum, m_typeMaximum);

@@ -29,6 +29,19 @@ SbRotation DvAxisAngleView::value(const Numbers& numbers)
     return rotation;
 }
 
+DvQuaternionView::Numbers DvQuaternionView::numbers(const SbRotation& rotation)
+{
+    const float* const q = rotation.getValue();
+    return {static_cast<double>(q[0]), static_cast<double>(q[1]), static_cast<double>(q[2]),
+            static_cast<double>(q[3])};
+}
+
+SbRotation DvQuaternionView::value(const Numbers& numbers)
+{
+    return {static_cast<float>(numbers[0]), static_cast<float>(numbers[1]),
+            static_cast<float>(numbers[2]), static_cast<float>(numbers[3])};
+}
+
 DvBox3sView::Numbers DvBox3sView::numbers(const SbBox3s& box)
 {
     std::array<short, 6> bounds = {};

@@ -91,6 +91,17 @@ struct DvAxisAngleView
     static SbRotation value(const Numbers& numbers);
 };
 
+/** A rotation as the four numbers of its quaternion. */
+struct DvQuaternionView
+{
+    using Field = SoSFRotation;
+    using Value = SbRotation;
+    using Numbers = std::array<double, 4>;
+
+    static Numbers numbers(const SbRotation& rotation);
+    static SbRotation value(const Numbers& numbers);
+};
+
 /** A box as its smallest corner, then its largest. */
 struct DvBox3sView
 {

@@ -33,6 +33,7 @@ private slots:
     void aNullPathComesBack();
     void aNullRowOfNodesOrEnginesComesBack();
     void coloursComeBackWithTheirAlpha();
+    void theExtremesOfARowOfRealsAreReadToTheLastBit();
     void anEmptyImageComesBack();
     void aRefusedTextTouchesTheField();
     void aRefusedTextOfARowTouchesTheField();
@@ -108,6 +109,23 @@ void tst_SoFieldText::coloursComeBackWithTheirAlpha()
     QCOMPARE(textOf(field).getString(), "1 0 1 0");
     QVERIFY(SoFieldText::set(&field, "[  ]"));
     QCOMPARE(field.getNum(), 0);
+}
+
+void tst_SoFieldText::theExtremesOfARowOfRealsAreReadToTheLastBit()
+{
+    ReportLog log;
+    SoMFDouble doubles;
+    doubles.setNum(2);
+    doubles.set1Value(0, 1.0);
+    // Coin's own reader makes 0 of it.
+    QVERIFY(SoFieldText::set1(&doubles, 1, "1.7976931348623157e+308"));
+    QCOMPARE(doubles[1], std::numeric_limits<double>::max());
+    QCOMPARE(doubles[0], 1.0);
+    SoMFFloat floats;
+    floats.setNum(1);
+    QVERIFY(SoFieldText::set1(&floats, 0, "inf"));
+    QCOMPARE(floats[0], std::numeric_limits<float>::infinity());
+    QCOMPARE(log.taken(), QStringList());
 }
 
 void tst_SoFieldText::anEmptyImageComesBack()

@@ -16,42 +16,42 @@ namespace {
 
 /** In order of construction: the docks choose among the editors in this order. */
 const char* const s_constructed[] = {
-    "DvSFBitMaskWidget",     "DvSFBoolWidget",   "DvSFBox3sWidget",          "DvSFColorWidget",
-    "DvSFEnumWidget",        "DvSFDoubleWidget", "DvSFFilePathStringWidget", "DvSFFloatWidget",
-    "DvSFImageWidget",       "DvSFInt32Widget",  "DvSFLineWidget",           "DvSFMatrixWidget",
-    "DvSFNameWidget",        "DvSFPlaneWidget",  "DvSFRotationWidget",       "DvSFShortWidget",
-    "DvSFStringWidget",      "DvSFUInt32Widget", "DvSFUShortWidget",         "DvSFVec2fWidget",
-    "DvSFVec2i32Widget",     "DvSFVec2sWidget",  "DvSFVec3fWidget",          "DvSFVec4fWidget",
-    "TvkFieldEditorDockWin",
+    "DvMFColorWidget",  "DvMFDefaultFieldWidget", "DvMFDoubleWidget", "DvMFFloatWidget",
+    "DvMFInt32Widget",  "DvMFMatrixWidget",       "DvMFPlaneWidget",  "DvMFRotationWidget",
+    "DvMFShortWidget",  "DvMFStringWidget",       "DvMFUInt32Widget", "DvMFUShortWidget",
+    "DvMFVec2fWidget",  "DvMFVec2i32Widget",      "DvMFVec2sWidget",  "DvMFVec3fWidget",
+    "DvMFVec4fWidget",  "DvSFBitMaskWidget",      "DvSFBoolWidget",   "DvSFBox3sWidget",
+    "DvSFColorWidget",  "DvSFEnumWidget",         "DvSFDoubleWidget", "DvSFFilePathStringWidget",
+    "DvSFFloatWidget",  "DvSFImageWidget",        "DvSFInt32Widget",  "DvSFLineWidget",
+    "DvSFMatrixWidget", "DvSFNameWidget",         "DvSFPlaneWidget",  "DvSFRotationWidget",
+    "DvSFShortWidget",  "DvSFStringWidget",       "DvSFUInt32Widget", "DvSFUShortWidget",
+    "DvSFVec2fWidget",  "DvSFVec2i32Widget",      "DvSFVec2sWidget",  "DvSFVec3fWidget",
+    "DvSFVec4fWidget",  "TvkFieldEditorDockWin",
 };
 
 /** In order of registration, and the field type of each; the dock has none. */
 const std::pair<const char*, const char*> s_registered[] = {
-    {"DvSFFilePathStringWidget", "SFFilePathString"},
-    {"DvSFBitMaskWidget", "SFBitMask"},
-    {"DvSFBoolWidget", "SFBool"},
-    {"DvSFBox3sWidget", "SFBox3s"},
-    {"DvSFColorWidget", "SFColor"},
-    {"DvSFEnumWidget", "SFEnum"},
-    {"DvSFDoubleWidget", "SFDouble"},
-    {"DvSFFloatWidget", "SFFloat"},
-    {"DvSFImageWidget", "SFImage"},
-    {"DvSFInt32Widget", "SFInt32"},
-    {"DvSFLineWidget", "SField"},
-    {"DvSFMatrixWidget", "SFMatrix"},
-    {"DvSFNameWidget", "SFName"},
-    {"DvSFPlaneWidget", "SFPlane"},
-    {"DvSFRotationWidget", "SFRotation"},
-    {"DvSFShortWidget", "SFShort"},
-    {"DvSFStringWidget", "SFString"},
-    {"DvSFUInt32Widget", "SFUInt32"},
-    {"DvSFUShortWidget", "SFUShort"},
-    {"DvSFVec2fWidget", "SFVec2f"},
-    {"DvSFVec2i32Widget", "SFVec2i32"},
-    {"DvSFVec2sWidget", "SFVec2s"},
-    {"DvSFVec3fWidget", "SFVec3f"},
-    {"DvSFVec4fWidget", "SFVec4f"},
-    {"TvkFieldEditorDockWin", ""},
+    {"DvMFColorWidget", "MFColor"},       {"DvMFDefaultFieldWidget", "MField"},
+    {"DvMFDoubleWidget", "MFDouble"},     {"DvSFFilePathStringWidget", "SFFilePathString"},
+    {"DvMFFloatWidget", "MFFloat"},       {"DvMFInt32Widget", "MFInt32"},
+    {"DvMFMatrixWidget", "MFMatrix"},     {"DvMFPlaneWidget", "MFPlane"},
+    {"DvMFRotationWidget", "MFRotation"}, {"DvMFShortWidget", "MFShort"},
+    {"DvMFStringWidget", "MFString"},     {"DvMFUInt32Widget", "MFUInt32"},
+    {"DvMFUShortWidget", "MFUShort"},     {"DvMFVec2fWidget", "MFVec2f"},
+    {"DvMFVec2i32Widget", "MFVec2i32"},   {"DvMFVec2sWidget", "MFVec2s"},
+    {"DvMFVec3fWidget", "MFVec3f"},       {"DvMFVec4fWidget", "MFVec4f"},
+    {"DvSFBitMaskWidget", "SFBitMask"},   {"DvSFBoolWidget", "SFBool"},
+    {"DvSFBox3sWidget", "SFBox3s"},       {"DvSFColorWidget", "SFColor"},
+    {"DvSFEnumWidget", "SFEnum"},         {"DvSFDoubleWidget", "SFDouble"},
+    {"DvSFFloatWidget", "SFFloat"},       {"DvSFImageWidget", "SFImage"},
+    {"DvSFInt32Widget", "SFInt32"},       {"DvSFLineWidget", "SField"},
+    {"DvSFMatrixWidget", "SFMatrix"},     {"DvSFNameWidget", "SFName"},
+    {"DvSFPlaneWidget", "SFPlane"},       {"DvSFRotationWidget", "SFRotation"},
+    {"DvSFShortWidget", "SFShort"},       {"DvSFStringWidget", "SFString"},
+    {"DvSFUInt32Widget", "SFUInt32"},     {"DvSFUShortWidget", "SFUShort"},
+    {"DvSFVec2fWidget", "SFVec2f"},       {"DvSFVec2i32Widget", "SFVec2i32"},
+    {"DvSFVec2sWidget", "SFVec2s"},       {"DvSFVec3fWidget", "SFVec3f"},
+    {"DvSFVec4fWidget", "SFVec4f"},       {"TvkFieldEditorDockWin", ""},
 };
 
 QStringList namesOf(const std::vector<TvkExtension*>& extensions)
@@ -169,8 +169,22 @@ private slots:
     {
         TvkPlugin* const plugin = m_load();
         plugin->load();
-        QCOMPARE(plugin->getExtensions().front()->objectName(),
-                 QStringLiteral("DvSFFilePathStringWidget"));
+        const QStringList names = namesOf(plugin->getExtensions());
+        QCOMPARE(names.mid(2, 3),
+                 QStringList({"DvMFDoubleWidget", "DvSFFilePathStringWidget", "DvMFFloatWidget"}));
+        m_unload();
+    }
+
+    void registersNoEditorThatIsOnlyABase()
+    {
+        TvkPlugin* const plugin = m_load();
+        plugin->load();
+        QCOMPARE(plugin->getExtensions().size(), std::size_t(42));
+        for (const TvkExtension* extension : plugin->getExtensions()) {
+            // Each is of the class that it is named for, so none is a common base.
+            QCOMPARE(QString(extension->metaObject()->className()), extension->objectName());
+            QVERIFY(extension->objectName() != QLatin1String("DvMFLineWidget"));
+        }
         m_unload();
     }
 

@@ -45,6 +45,27 @@ public:
     SoSFVec3f sfVec3f;
     SoSFVec4f sfVec4f;
 
+    // Three rows each.
+    SoMFColor mfColor;
+    SoMFDouble mfDouble;
+    SoMFEnum mfEnum;
+    SoMFFloat mfFloat;
+    SoMFInt32 mfInt32;
+    SoMFMatrix mfMatrix;
+    SoMFNode mfNode;
+    SoMFPlane mfPlane;
+    SoMFRotation mfRotation;
+    SoMFShort mfShort;
+    SoMFString mfString;
+    SoMFTime mfTime;
+    SoMFUInt32 mfUInt32;
+    SoMFUShort mfUShort;
+    SoMFVec2f mfVec2f;
+    SoMFVec2i32 mfVec2i32;
+    SoMFVec2s mfVec2s;
+    SoMFVec3f mfVec3f;
+    SoMFVec4f mfVec4f;
+
 protected:
     ~SoEveryField() override;
 
@@ -52,4 +73,6 @@ private:
     void addEnums();
     void addNumbers();
     void addVectors();
+    void addRows();
+    void addRowsOfVectors();
 };

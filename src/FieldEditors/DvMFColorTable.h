@@ -1,0 +1,48 @@
+#pragma once
+
+#include "FieldEditors/DvMFieldTable.h"
+#include "FieldEditors/DvMFieldTableItemDelegate.h"
+
+#include <QColor>
+
+/** Paints a cell filled with the colour of its row. */
+class DvMFColorTableItemDelegate final : public DvMFieldTableItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using DvMFieldTableItemDelegate::DvMFieldTableItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+};
+
+/** Takes the colour that the user has chosen for a row. */
+class DvColorOwner
+{
+public:
+    virtual void setColor(int row, const QColor& color) = 0;
+
+protected:
+    ~DvColorOwner() = default;
+};
+
+/** The table of a colour field: a click into the first column of a row opens the colour dialog. */
+class DvMFColorTable final : public DvMFieldTable
+{
+    Q_OBJECT
+
+public:
+    /** Kept on purpose: without a name it has the base's default name. */
+    DvMFColorTable(DvMFieldWidget& owner, DvColorOwner& colorOwner, QWidget* parent,
+                   const char* name = nullptr);
+
+    /** The colour that the three cells of a row make. */
+    QColor rowColor(int row) const;
+
+public slots:
+    void getColorFromEditor(int row, int col);
+
+private:
+    DvColorOwner& m_colorOwner;
+};

@@ -1,0 +1,7 @@
+#include "FieldEditors/MFWidgets/DvMFPlaneWidget.h"
+
+DvMFPlaneWidget::DvMFPlaneWidget()
+    : DvMFNumbersWidget(
+          {"MFPlane", {"x", "y", "z", "distance"}, DvMFieldTableItemDelegate::FloatKind},
+          QStringLiteral("DvMFPlaneWidget"))
+{}

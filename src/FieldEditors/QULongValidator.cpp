@@ -1,0 +1,1 @@
+#include "FieldEditors/QULongValidator.h"

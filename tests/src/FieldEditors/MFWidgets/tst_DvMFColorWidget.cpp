@@ -1,0 +1,227 @@
+#include "tests/support/ModalDialog.h"
+#include "tests/support/TableRig.h"
+#include "tests/support/TestMain.h"
+
+#include "FieldEditors/DvMFColorTable.h"
+#include "FieldEditors/MFWidgets/DvMFColorWidget.h"
+#include "FieldEditors/TvkMFSetFieldValueCommand.h"
+
+#include <QColorDialog>
+
+#include <limits>
+
+class tst_DvMFColorWidget : public QObject
+{
+    Q_OBJECT
+
+private:
+    static ModalDialog::Action choosing(const QColor& color)
+    {
+        return [color](QDialog& dialog) {
+            auto* const colors = qobject_cast<QColorDialog*>(&dialog);
+            QVERIFY(colors);
+            colors->setCurrentColor(color);
+            colors->accept();
+        };
+    }
+
+    static void clickCell(const TableRig& rig, int row, int column)
+    {
+        const QRect cell = rig.table().visualItemRect(rig.table().item(row, column));
+        QTest::mouseClick(rig.table().viewport(), Qt::LeftButton, {}, cell.center());
+    }
+
+    static SbColor color(const TableRig& rig, int row) { return rig.node->mfColor[row]; }
+
+private slots:
+    void initTestCase()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        SoEveryField::initClass();
+    }
+
+    void aClickIntoTheFirstColumnOpensTheDialogWithTheRowsColor()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        QColor shown;
+        QString title;
+        QObject* parent = nullptr;
+        const ModalDialog dialog([&](QDialog& up) {
+            shown = static_cast<QColorDialog&>(up).currentColor();
+            title = up.windowTitle();
+            parent = up.parent();
+        });
+        clickCell(rig, 2, 0);
+        QVERIFY(dialog.wasUp());
+        QCOMPARE(shown, QColor(63, 127, 191, 255));
+        QCOMPARE(title, QStringLiteral("color dialog"));
+        QCOMPARE(parent, &rig.table());
+    }
+
+    void theOtherColumnsOpenNone()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        const ModalDialog dialog([](QDialog&) {});
+        clickCell(rig, 1, 1);
+        clickCell(rig, 1, 2);
+        QTest::qWait(20);
+        QVERIFY(!dialog.wasUp());
+    }
+
+    void choosingAColorWritesTheRowAndPushesOneCommand()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        const ModalDialog dialog(choosing(QColor(255, 51, 0)));
+        clickCell(rig, 1, 0);
+        QCOMPARE(rig.rows(), QList<QByteArray>({"1 0 0.5", "1 0.2 0", "0.25 0.5 0.75"}));
+        QCOMPARE(rig.host.services.count(), 1);
+        QVERIFY(dynamic_cast<TvkMFSetFieldValueCommand*>(&rig.host.services.at(0)));
+        TableRig::runSensors();
+        QCOMPARE(rig.shownRow(1), QStringLiteral("1|0.2|0"));
+    }
+
+    void keepsTheNewColorWhenTheChoiceIsUndone()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        const ModalDialog dialog(choosing(Qt::blue));
+        clickCell(rig, 0, 0);
+        rig.host.services.undo(0);
+        QVERIFY(color(rig, 0) == SbColor(0, 0, 1));
+    }
+
+    void cancellingTheDialogChangesNothing()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        const QList<QByteArray> before = rig.rows();
+        const ModalDialog dialog([](QDialog& up) { up.reject(); });
+        clickCell(rig, 1, 0);
+        QVERIFY(dialog.wasUp());
+        QCOMPARE(rig.rows(), before);
+        QCOMPARE(rig.host.services.count(), 0);
+    }
+
+    void componentsThatAreNoColorOpenTheDialogAllTheSame()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        rig.node->mfColor.set1Value(0, 7.0F, -3.0F, std::numeric_limits<float>::quiet_NaN());
+        TableRig::runSensors();
+        QColor shown;
+        const ModalDialog dialog(
+            [&](QDialog& up) { shown = static_cast<QColorDialog&>(up).currentColor(); });
+        clickCell(rig, 0, 0);
+        QCOMPARE(shown, QColor(255, 0, 0));
+    }
+
+    void theNodeCanDieWhileTheDialogIsOpen()
+    {
+        DvMFColorWidget editor;
+        TableRig rig(editor, "mfColor");
+        const ModalDialog dialog([&rig](QDialog& up) {
+            rig.killNode();
+            up.accept();
+        });
+        clickCell(rig, 1, 0);
+        QVERIFY(dialog.wasUp());
+        QVERIFY(!editor.field());
+        QCOMPARE(rig.host.services.count(), 0);
+    }
+
+    void aColorChosenForAnotherFieldIsNotWritten()
+    {
+        DvMFColorWidget editor;
+        TableRig rig(editor, "mfColor");
+        auto* const second = new SoEveryField;
+        second->ref();
+        const QList<QByteArray> before = rig.rows();
+        const ModalDialog dialog([&](QDialog& up) {
+            rig.edit(second->mfColor);
+            choosing(Qt::blue)(up);
+        });
+        clickCell(rig, 1, 0);
+        QCOMPARE(rig.rows(), before);
+        QCOMPARE(rig.host.services.count(), 0);
+        second->unref();
+    }
+
+    void aRowThatWentWhileTheDialogWasOpenIsNotWritten()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        const ModalDialog dialog([&](QDialog& up) {
+            rig.node->mfColor.setNum(1);
+            choosing(Qt::blue)(up);
+        });
+        clickCell(rig, 2, 0);
+        QCOMPARE(rig.rows(), QList<QByteArray>({"1 0 0.5"}));
+        QCOMPARE(rig.host.services.count(), 0);
+    }
+
+    void aConnectedFieldOpensNoDialog()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        auto* const master = new SoEveryField;
+        master->ref();
+        rig.node->mfColor.connectFrom(&master->mfColor);
+        TableRig::runSensors();
+        const ModalDialog dialog([](QDialog&) {});
+        clickCell(rig, 1, 0);
+        QTest::qWait(20);
+        QVERIFY(!dialog.wasUp());
+        rig.node->mfColor.disconnect();
+        master->unref();
+    }
+
+    void aCellCanBeEditedToo()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        rig.enter(2, 0, QStringLiteral("1"));
+        QCOMPARE(rig.rows()[2], QByteArray("1 0.5 0.75"));
+        QVERIFY(dynamic_cast<TvkMFSetFieldValueCommand*>(&rig.host.services.at(0)));
+    }
+
+    void editingACellKeepsTheBitsOfTheOthers()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        rig.node->mfColor.set1Value(0, 0.333333343F, 0.0F, 1e-30F);
+        TableRig::runSensors();
+        rig.enter(0, 1, QStringLiteral("0.5"));
+        QVERIFY(color(rig, 0) == SbColor(0.333333343F, 0.5F, 1e-30F));
+    }
+
+    void theCellsAreFilledWithTheColorOfTheirRow()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        const auto* const table = qobject_cast<DvMFColorTable*>(&rig.table());
+        QVERIFY(table);
+        const QImage picture = table->viewport()->grab().toImage();
+        for (int row = 0; row < 3; ++row) {
+            const QRect cell = table->visualItemRect(table->item(row, 1));
+            QCOMPARE(picture.pixelColor(cell.topLeft() + QPoint(2, 2)), table->rowColor(row));
+        }
+    }
+
+    void keepsTheBasesNameForATableWithoutOne()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        class NoOwner final : public DvColorOwner
+        {
+            void setColor(int, const QColor&) override {}
+        } owner;
+        const DvMFColorTable table(editor, owner, nullptr);
+        QCOMPARE(table.objectName(), QStringLiteral("DvMFieldTable"));
+    }
+};
+
+TAVRIK_TEST_MAIN(tst_DvMFColorWidget)
+#include "tst_DvMFColorWidget.moc"

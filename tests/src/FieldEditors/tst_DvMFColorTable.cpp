@@ -1,0 +1,189 @@
+#include "tests/support/ModalDialog.h"
+#include "tests/support/TableRig.h"
+#include "tests/support/TestMain.h"
+
+#include "FieldEditors/MFWidgets/DvMFColorWidget.h"
+
+#include <QColorDialog>
+#include <QPainter>
+
+/** Takes no colour. */
+class Nobody final : public DvColorOwner
+{
+    void setColor(int, const QColor&) override {}
+};
+
+class tst_DvMFColorTable : public QObject
+{
+    Q_OBJECT
+
+private:
+    static DvMFColorTable& colorTable(const TableRig& rig)
+    {
+        return static_cast<DvMFColorTable&>(rig.table());
+    }
+
+    static void clickCell(const TableRig& rig, int row, int column)
+    {
+        QTest::mouseClick(rig.table().viewport(), Qt::LeftButton, Qt::NoModifier,
+                          rig.table().visualItemRect(rig.table().item(row, column)).center());
+    }
+
+    static ModalDialog::Action choose(const QColor& color)
+    {
+        return [color](QDialog& dialog) {
+            static_cast<QColorDialog&>(dialog).setCurrentColor(color);
+            dialog.accept();
+        };
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        SoEveryField::initClass();
+    }
+
+    void keepsTheDefaultNameOfTheBase()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        Nobody nobody;
+        const DvMFColorTable table(editor, nobody, nullptr);
+        QCOMPARE(table.objectName(), QStringLiteral("DvMFieldTable"));
+        const DvMFColorTable named(editor, nobody, nullptr, "colours");
+        QCOMPARE(named.objectName(), QStringLiteral("colours"));
+    }
+
+    void theSlotNamesItsArguments()
+    {
+        const QMetaObject& meta = DvMFColorTable::staticMetaObject;
+        const int slot = meta.indexOfSlot("getColorFromEditor(int,int)");
+        QVERIFY(slot >= meta.methodOffset());
+        QCOMPARE(meta.method(slot).parameterNames(), (QList<QByteArray>{"row", "col"}));
+    }
+
+    void aRowsCellsMakeItsColour()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        QCOMPARE(colorTable(rig).rowColor(0), QColor(255, 0, 127, 255));
+        rig.field->set1(0, "2 -1 0.25");
+        QCOMPARE(colorTable(rig).rowColor(0), QColor(255, 0, 63, 255));
+    }
+
+    void theDialogStartsWithTheRowsColour()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        QColor shown;
+        QString title;
+        const QWidget* parent = nullptr;
+        const ModalDialog dialog([&](QDialog& opened) {
+            shown = static_cast<QColorDialog&>(opened).currentColor();
+            title = opened.windowTitle();
+            parent = opened.parentWidget();
+        });
+        clickCell(rig, 2, 0);
+        QVERIFY(dialog.wasUp());
+        QCOMPARE(shown, QColor(63, 127, 191));
+        QCOMPARE(title, QStringLiteral("color dialog"));
+        QCOMPARE(parent, static_cast<const QWidget*>(&rig.table()));
+        QCOMPARE(rig.host.services.count(), 0);
+    }
+
+    void theChosenColourIsWrittenAsOneCommand()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        const ModalDialog dialog(choose(QColor(255, 51, 0)));
+        clickCell(rig, 1, 0);
+        QCOMPARE(rig.rows().at(1), QByteArray("1 0.2 0"));
+        QCOMPARE(rig.rows().at(0), QByteArray("1 0 0.5"));
+        QCOMPARE(rig.host.services.count(), 1);
+    }
+
+    void onlyTheFirstColumnOpensTheDialog()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        const ModalDialog dialog(choose(Qt::white));
+        clickCell(rig, 1, 1);
+        clickCell(rig, 1, 2);
+        QTest::qWait(20);
+        QVERIFY(!dialog.wasUp());
+        QCOMPARE(rig.host.services.count(), 0);
+    }
+
+    void aFieldThatDiesBehindTheDialogGetsNothing()
+    {
+        DvMFColorWidget editor;
+        TableRig rig(editor, "mfColor");
+        const ModalDialog dialog([&](QDialog& opened) {
+            rig.killNode();
+            choose(Qt::white)(opened);
+        });
+        clickCell(rig, 1, 0);
+        QVERIFY(dialog.wasUp());
+        QCOMPARE(rig.host.services.count(), 0);
+        rig.reviveNode("mfColor");
+        QCOMPARE(rig.rows().at(1), QByteArray("0 1 0.5"));
+    }
+
+    void aRowThatGoesBehindTheDialogIsNotWritten()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        const ModalDialog dialog([&](QDialog& opened) {
+            rig.field->setNum(1);
+            choose(Qt::white)(opened);
+        });
+        clickCell(rig, 2, 0);
+        QCOMPARE(rig.rows(), QList<QByteArray>{"1 0 0.5"});
+        QCOMPARE(rig.host.services.count(), 0);
+    }
+
+    void aFieldThatIsConnectedHasNoDialog()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        auto* const master = new SoEveryField;
+        master->ref();
+        rig.field->connectFrom(&master->mfColor);
+        TableRig::runSensors();
+        const ModalDialog dialog(choose(Qt::white));
+        clickCell(rig, 0, 0);
+        QTest::qWait(20);
+        QVERIFY(!dialog.wasUp());
+        rig.field->disconnect();
+        master->unref();
+    }
+
+    void everyCellOfARowIsFilledWithItsColour()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        for (int column = 0; column < 3; ++column) {
+            QImage picture(80, 30, QImage::Format_RGB32);
+            QPainter painter(&picture);
+            QStyleOptionViewItem option;
+            option.initFrom(&rig.table());
+            option.rect = picture.rect();
+            rig.table().itemDelegate()->paint(&painter, option,
+                                              rig.table().model()->index(2, column));
+            QCOMPARE(picture.pixelColor(2, 2), QColor(63, 127, 191));
+        }
+    }
+
+    void aComponentIsTypedIntoALine()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        rig.enter(2, 1, "0.125");
+        QCOMPARE(rig.rows().at(2), QByteArray("0.25 0.125 0.75"));
+        QCOMPARE(rig.host.services.count(), 1);
+    }
+};
+
+TAVRIK_TEST_MAIN(tst_DvMFColorTable)
+#include "tst_DvMFColorTable.moc"

@@ -84,13 +84,16 @@ void DvTablePopupWidget::setDefaultFieldValue()
 
 void DvTablePopupWidget::setEditFrame()
 {
-    if (m_popup->isVisible()) {
-        m_popup->hide();
+    DvPopupFrame* const popup = m_popup;
+    if (!popup)
+        return;
+    if (popup->isVisible()) {
+        popup->hide();
         return;
     }
     showCurrentRow();
     if (isRow(table().currentRow()) && !isReadOnly())
-        m_popup->popUpBeside(*m_editButton);
+        popup->popUpBeside(*m_editButton);
 }
 
 void DvTablePopupWidget::showCurrentRow()

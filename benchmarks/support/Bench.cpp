@@ -84,6 +84,7 @@ std::vector<double> Bench::medians(int runs, const std::vector<Work>& works)
             times[work].push_back(processorTime(works[work]));
     }
     std::vector<double> found;
+    found.reserve(times.size());
     for (std::vector<double>& each : times)
         found.push_back(middle(each));
     return found;

@@ -1,5 +1,7 @@
 #include "benchmarks/support/FilledField.h"
 
+#include <Inventor/SbName.h>
+
 FilledField::FilledField(const MFieldKind& kind, int rows, int firstNumber) : m_kind(kind)
 {
     m_node = static_cast<SoNode*>(SoType::fromName(kind.nodeType).createInstance());

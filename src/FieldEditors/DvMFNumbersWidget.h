@@ -3,6 +3,7 @@
 #include "FieldEditors/DvMFieldWidget.h"
 
 #include <cstddef>
+#include <cstring>
 
 /**
  * The family of the multiple-value fields whose rows are made of numbers, a column each. `View` is
@@ -32,7 +33,9 @@ public:
         if (!isRow(row))
             return {};
         const Numbers numbers = numbersAt(row);
-        return {reinterpret_cast<const char*>(numbers.data()), static_cast<int>(sizeof numbers)};
+        QByteArray bytes(static_cast<int>(sizeof numbers), Qt::Uninitialized);
+        std::memcpy(bytes.data(), numbers.data(), sizeof numbers);
+        return bytes;
     }
 
     void applyCell(int row, int column, const QString& text) override

@@ -2,6 +2,8 @@
 
 #include "FieldEditors/DvMFTextRows.h"
 
+#include <cstring>
+
 /**
  * The common base of the six single-column number editors; never registered itself.
  *
@@ -28,7 +30,9 @@ protected:
     static QByteArray numberAt(const SoMField& field, int row)
     {
         const auto number = static_cast<const Field&>(field)[row];
-        return {reinterpret_cast<const char*>(&number), static_cast<int>(sizeof number)};
+        QByteArray bytes(static_cast<int>(sizeof number), Qt::Uninitialized);
+        std::memcpy(bytes.data(), &number, sizeof number);
+        return bytes;
     }
 
 private:

@@ -2,10 +2,9 @@
 
 #include "lib/HostSettings.h"
 
-#include <TvkCommand.h>
+#include "tests/host/HeightCommand.h"
 
 #include <Inventor/SbName.h>
-#include <Inventor/nodes/SoCone.h>
 
 #include <QPushButton>
 #include <QTableView>
@@ -18,18 +17,6 @@ const char* const ConeScene = "#Inventor V2.1 ascii\n"
                               "Separator {\n"
                               "  DEF Group Separator { DEF Cone Cone { height 3 } Cube {} }\n"
                               "}\n";
-
-class SetHeight : public TvkCommand
-{
-public:
-    explicit SetHeight(SoCone& cone) : TvkCommand(&cone.height), m_cone(cone) {}
-    void execute() override { m_cone.height = 7; }
-    void undo() override { m_cone.height = 3; }
-    void redo() override { execute(); }
-
-private:
-    SoCone& m_cone;
-};
 
 QModelIndex find(const QAbstractItemModel& model, int column, const char* text)
 {
@@ -105,7 +92,7 @@ SoCone& WindowOnCone::cone()
 
 void WindowOnCone::edit() const
 {
-    m_window->services().pushCommand(new SetHeight(cone()));
+    m_window->services().pushCommand(new HeightCommand(cone(), 7));
 }
 
 void WindowOnCone::answerNextBox(QMessageBox::StandardButton button)

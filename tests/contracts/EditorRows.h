@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <memory>
-#include <utility>
 #include <vector>
 
 /** What every single-value editor promises, filled in for one of them. */
@@ -64,18 +63,20 @@ inline std::function<QString(const EditorRig&)> showingLines(const char* name)
     return [name](const EditorRig& rig) { return linesOf(rig, name); };
 }
 
-/** Types into the first line of that name, without an end. */
-inline std::function<void(const EditorRig&)> typing(const char* name, const char* text)
+/** Types into one of the lines of that name, without an end. */
+inline std::function<void(const EditorRig&)> typing(const char* name, const char* text,
+                                                    int index = 0)
 {
-    return [name, text](const EditorRig& rig) {
-        EditorRig::type(rig.find<QLineEdit>(name), QString::fromLatin1(text));
+    return [=](const EditorRig& rig) {
+        EditorRig::type(rig.find<QLineEdit>(name, index), QString::fromLatin1(text));
     };
 }
 
-inline std::function<void(const EditorRig&)> typingAndReturn(const char* name, const char* text)
+inline std::function<void(const EditorRig&)> typingAndReturn(const char* name, const char* text,
+                                                             int index = 0)
 {
-    return [name, text](const EditorRig& rig) {
-        typing(name, text)(rig);
-        QTest::keyClick(rig.find<QLineEdit>(name), Qt::Key_Return);
+    return [=](const EditorRig& rig) {
+        typing(name, text, index)(rig);
+        QTest::keyClick(rig.find<QLineEdit>(name, index), Qt::Key_Return);
     };
 }

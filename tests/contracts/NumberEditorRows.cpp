@@ -99,85 +99,61 @@ std::vector<EditorRow> sliderRows()
     };
 }
 
+/** An editor of labelled lines, and what happens when a number is typed into one of them. */
+struct LinesCase
+{
+    const char* line; ///< the name that its lines share
+    const char* outside;
+    const char* rough;
+    const char* shownAtFirst;
+    const char* shownOutside;
+    int typedInto;
+    const char* typed;
+    const char* afterTyping;
+};
+
+template <class Editor>
+EditorRow linesRow(const char* name, SoType (*handledType)(), const char* label, const char* field,
+                   const LinesCase& lines)
+{
+    return {&makeEditor<Editor>,
+            name,
+            handledType,
+            label,
+            field,
+            lines.outside,
+            lines.rough,
+            showingLines(lines.line),
+            lines.shownAtFirst,
+            lines.shownOutside,
+            typingAndReturn(lines.line, lines.typed, lines.typedInto),
+            lines.afterTyping,
+            lines.afterTyping,
+            {{"a line is modified", typing(lines.line, "7")}}};
+}
+
 std::vector<EditorRow> lineRows()
 {
     return {
-        {&makeEditor<DvSFVec2fWidget>,
-         "DvSFVec2fWidget",
-         &SoSFVec2f::getClassTypeId,
-         "SFVec2f",
-         "sfVec2f",
-         "4 5",
-         "0.333333343 1.23456788",
-         showingLines("SFVec2fLine"),
-         "1|2",
-         "4|5",
-         typingAndReturn("SFVec2fLine", "9"),
-         "9 2",
-         "9 2",
-         {{"a line is modified", typing("SFVec2fLine", "7")}}},
-        {&makeEditor<DvSFVec3fWidget>,
-         "DvSFVec3fWidget",
-         &SoSFVec3f::getClassTypeId,
-         "SFVec3f",
-         "sfVec3f",
-         "4 5 6",
-         "0.333333343 1.23456788 1e-07",
-         showingLines("SFVec3fLine"),
-         "1|2|3",
-         "4|5|6",
-         typingAndReturn("SFVec3fLine", "9"),
-         "9 2 3",
-         "9 2 3",
-         {{"a line is modified", typing("SFVec3fLine", "7")}}},
-        {&makeEditor<DvSFVec4fWidget>,
-         "DvSFVec4fWidget",
-         &SoSFVec4f::getClassTypeId,
-         "SFVec4f",
-         "sfVec4f",
-         "4 5 6 7",
-         "0.333333343 1.23456788 1e-07 16777215",
-         showingLines("SF4fine"),
-         "1|2|3|4",
-         "4|5|6|7",
-         typingAndReturn("SF4fine", "9"),
-         "9 2 3 4",
-         "9 2 3 4",
-         {{"a line is modified", typing("SF4fine", "7")}}},
-        {&makeEditor<DvSFPlaneWidget>,
-         "DvSFPlaneWidget",
-         &SoSFPlane::getClassTypeId,
-         "SFPlane",
-         "sfPlane",
-         "1 0 0 5",
-         "0.267261237 0.534522474 0.80178374 1.23456788",
-         showingLines("SF4fine"),
-         "0|1|0|2",
-         "1|0|0|5",
-         [](const EditorRig& r) {
-             EditorRig::type(r.find<QLineEdit>("SF4fine", 3), "9");
-             QTest::keyClick(r.find<QLineEdit>("SF4fine", 3), Qt::Key_Return);
-         },
-         "0 1 0 9",
-         "0 1 0 9",
-         {{"a line is modified", typing("SF4fine", "7")}}},
-        {&makeEditor<DvSFRotationWidget>,
-         "DvSFRotationWidget",
-         &SoSFRotation::getClassTypeId,
-         "SFRotation",
-         "sfRotation",
-         "0 1 0  1.5",
-         "0.267261237 0.534522474 0.80178374  1.23456788",
-         showingLines("SF4fine"),
-         "0|0|1|1.5",
-         "0|1|0|1.5",
-         [](const EditorRig& r) {
-             EditorRig::type(r.find<QLineEdit>("SF4fine", 3), "1");
-             QTest::keyClick(r.find<QLineEdit>("SF4fine", 3), Qt::Key_Return);
-         },
-         "0 0 1 1",
-         "0 0 1 1",
-         {{"a line is modified", typing("SF4fine", "7")}}},
+        linesRow<DvSFVec2fWidget>(
+            "DvSFVec2fWidget", &SoSFVec2f::getClassTypeId, "SFVec2f", "sfVec2f",
+            {"SFVec2fLine", "4 5", "0.333333343 1.23456788", "1|2", "4|5", 0, "9", "9 2"}),
+        linesRow<DvSFVec3fWidget>("DvSFVec3fWidget", &SoSFVec3f::getClassTypeId, "SFVec3f",
+                                  "sfVec3f",
+                                  {"SFVec3fLine", "4 5 6", "0.333333343 1.23456788 1e-07", "1|2|3",
+                                   "4|5|6", 0, "9", "9 2 3"}),
+        linesRow<DvSFVec4fWidget>("DvSFVec4fWidget", &SoSFVec4f::getClassTypeId, "SFVec4f",
+                                  "sfVec4f",
+                                  {"SF4fine", "4 5 6 7", "0.333333343 1.23456788 1e-07 16777215",
+                                   "1|2|3|4", "4|5|6|7", 0, "9", "9 2 3 4"}),
+        linesRow<DvSFPlaneWidget>(
+            "DvSFPlaneWidget", &SoSFPlane::getClassTypeId, "SFPlane", "sfPlane",
+            {"SF4fine", "1 0 0 5", "0.267261237 0.534522474 0.80178374 1.23456788", "0|1|0|2",
+             "1|0|0|5", 3, "9", "0 1 0 9"}),
+        linesRow<DvSFRotationWidget>(
+            "DvSFRotationWidget", &SoSFRotation::getClassTypeId, "SFRotation", "sfRotation",
+            {"SF4fine", "0 1 0  1.5", "0.267261237 0.534522474 0.80178374  1.23456788", "0|0|1|1.5",
+             "0|1|0|1.5", 3, "1", "0 0 1 1"}),
     };
 }
 

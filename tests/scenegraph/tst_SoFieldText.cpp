@@ -1,7 +1,7 @@
 #include "scenegraph/SoFieldText.h"
 
 #include "tests/support/FieldBits.h"
-#include "tests/support/Notifications.h"
+#include "tests/support/NotificationCounter.h"
 #include "tests/support/ReportLog.h"
 #include "tests/support/TestMain.h"
 

@@ -2,7 +2,7 @@
 
 #include "scenegraph/SoSFFilePathString.h"
 
-#include "tests/support/Notifications.h"
+#include "tests/support/NotificationCounter.h"
 #include "tests/support/ReportLog.h"
 #include "tests/support/TestMain.h"
 

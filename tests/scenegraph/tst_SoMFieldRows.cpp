@@ -1,7 +1,8 @@
 #include "scenegraph/SoMFieldRows.h"
 
-#include "tests/scenegraph/FieldTexts.h"
-#include "tests/support/Notifications.h"
+#include "tests/scenegraph/NumberedRows.h"
+#include "tests/support/FieldTexts.h"
+#include "tests/support/NotificationCounter.h"
 #include "tests/support/ReportLog.h"
 #include "tests/support/TestMain.h"
 
@@ -35,7 +36,7 @@ void tst_SoMFieldRows::readsAndWritesARow()
     QVERIFY(SoMFieldRows::get1(&field, 2, text));
     QCOMPARE(text.getString(), "12");
     QVERIFY(SoMFieldRows::set1(&field, 0, "7"));
-    QCOMPARE(textsOf(field), "7 11 12");
+    QCOMPARE(rowsInOneLine(field), "7 11 12");
     QVERIFY(!SoMFieldRows::set1(&field, 0, "no number"));
     QCOMPARE(field.getNum(), 3);
 }
@@ -63,7 +64,7 @@ void tst_SoMFieldRows::newRowsAreCopiesOfTheRowsAfterThem()
     SoMFInt32 field;
     fillWithNumbers(field, rows);
     QVERIFY(SoMFieldRows::insertSpace(&field, start, count));
-    QCOMPARE(textsOf(field), after);
+    QCOMPARE(rowsInOneLine(field), after);
 }
 
 void tst_SoMFieldRows::makingRoomNotifiesOnce_data()
@@ -90,9 +91,9 @@ void tst_SoMFieldRows::insertedRowsOfStringsAreEmpty()
     field.set1Value(1, "b");
     const auto change = [&] { QVERIFY(SoMFieldRows::insertEmpty(&field, 1, 3)); };
     QCOMPARE(notificationsOf(field, change), 4);
-    QCOMPARE(textsOf(field), R"("a" "" "" "" "b")");
+    QCOMPARE(rowsInOneLine(field), R"("a" "" "" "" "b")");
     QVERIFY(SoMFieldRows::insertEmpty(&field, 5, 1));
-    QCOMPARE(textsOf(field), R"("a" "" "" "" "b" "")");
+    QCOMPARE(rowsInOneLine(field), R"("a" "" "" "" "b" "")");
 }
 
 void tst_SoMFieldRows::deletedRowsComeBackFromTheirTexts()
@@ -102,10 +103,10 @@ void tst_SoMFieldRows::deletedRowsComeBackFromTheirTexts()
     SbString texts[3];
     QVERIFY(SoMFieldRows::readTexts(&field, 2, 3, texts));
     QVERIFY(SoMFieldRows::deleteValues(&field, 2, 3));
-    QCOMPARE(textsOf(field), "10 11 15");
+    QCOMPARE(rowsInOneLine(field), "10 11 15");
     const auto change = [&] { QVERIFY(SoMFieldRows::insertTexts(&field, 2, 3, texts)); };
     QCOMPARE(notificationsOf(field, change), 4);
-    QCOMPARE(textsOf(field), "10 11 12 13 14 15");
+    QCOMPARE(rowsInOneLine(field), "10 11 12 13 14 15");
 }
 
 void tst_SoMFieldRows::awkwardStringsComeBackFromTheirTexts()
@@ -114,13 +115,13 @@ void tst_SoMFieldRows::awkwardStringsComeBackFromTheirTexts()
     SoMFString field;
     const char* strings[] = {"a\\", "\"\n", "", "\\\"", "plain"};
     field.setValues(0, 5, strings);
-    const QString before = textsOf(field);
+    const QString before = rowsInOneLine(field);
     SbString texts[5];
     SoMFieldRows::readTexts(&field, 0, 5, texts);
     SoMFieldRows::deleteValues(&field, 0, 5);
     QCOMPARE(field.getNum(), 0);
     SoMFieldRows::insertTexts(&field, 0, 5, texts);
-    QCOMPARE(textsOf(field), before);
+    QCOMPARE(rowsInOneLine(field), before);
     QCOMPARE(log.taken(), QStringList());
 }
 
@@ -130,7 +131,7 @@ void tst_SoMFieldRows::aRefusedTextLeavesACopyOfANeighbour()
     fillWithNumbers(field, 2);
     const SbString texts[] = {"no number", "5"};
     QVERIFY(SoMFieldRows::insertTexts(&field, 2, 2, texts));
-    QCOMPARE(textsOf(field), "10 11 11 5");
+    QCOMPARE(rowsInOneLine(field), "10 11 11 5");
 }
 
 void tst_SoMFieldRows::aConnectedFieldTakesItsValuesFirst()
@@ -146,13 +147,13 @@ void tst_SoMFieldRows::aConnectedFieldTakesItsValuesFirst()
     slave.connectFrom(&master);
     fillWithNumbers(master, 4);
     QVERIFY(SoMFieldRows::set1(&slave, 3, "7"));
-    QCOMPARE(textsOf(slave), "10 11 12 7");
+    QCOMPARE(rowsInOneLine(slave), "10 11 12 7");
     fillWithNumbers(master, 5);
     QVERIFY(SoMFieldRows::insertSpace(&slave, 5, 1));
-    QCOMPARE(textsOf(slave), "10 11 12 13 14 14");
+    QCOMPARE(rowsInOneLine(slave), "10 11 12 13 14 14");
     fillWithNumbers(master, 6);
     QVERIFY(SoMFieldRows::deleteValues(&slave, 1, 4));
-    QCOMPARE(textsOf(slave), "10 15");
+    QCOMPARE(rowsInOneLine(slave), "10 15");
     nodes->unref();
 }
 
@@ -165,7 +166,7 @@ void tst_SoMFieldRows::theFirstAndTheLastRowCanBeSwapped()
     SbString last;
     QVERIFY(SoMFieldRows::get1(&field, 0, first) && SoMFieldRows::get1(&field, 2, last));
     QVERIFY(SoMFieldRows::set1(&field, 0, last) && SoMFieldRows::set1(&field, 2, first));
-    QCOMPARE(textsOf(field), R"("c\"" "b" "a\")");
+    QCOMPARE(rowsInOneLine(field), R"("c\"" "b" "a\")");
 }
 
 TAVRIK_TEST_MAIN(tst_SoMFieldRows)

@@ -1,7 +1,8 @@
 #include "scenegraph/SoMFieldRows.h"
 
-#include "tests/scenegraph/FieldTexts.h"
-#include "tests/support/Notifications.h"
+#include "tests/scenegraph/NumberedRows.h"
+#include "tests/support/FieldTexts.h"
+#include "tests/support/NotificationCounter.h"
 #include "tests/support/ReportLog.h"
 #include "tests/support/TestMain.h"
 
@@ -50,7 +51,7 @@ void tst_SoMFieldRowsOutside::aRowOutsideIsNeitherReadNorWritten()
     QFETCH(int, row);
     SoMFInt32 field;
     fillWithNumbers(field, rows);
-    const QString before = textsOf(field);
+    const QString before = rowsInOneLine(field);
     ReportLog log;
     SbString text("untouched");
     QVERIFY(!SoMFieldRows::get1(&field, row, text));
@@ -58,7 +59,7 @@ void tst_SoMFieldRowsOutside::aRowOutsideIsNeitherReadNorWritten()
     QCOMPARE(log.taken().size(), 1);
     QCOMPARE(notificationsOf(field, [&] { SoMFieldRows::set1(&field, row, "1"); }), 0);
     QCOMPARE(log.taken().size(), 1);
-    QCOMPARE(textsOf(field), before);
+    QCOMPARE(rowsInOneLine(field), before);
 }
 
 void tst_SoMFieldRowsOutside::aRunOutsideIsNeitherReadNorDeleted_data()
@@ -85,14 +86,14 @@ void tst_SoMFieldRowsOutside::aRunOutsideIsNeitherReadNorDeleted()
     QFETCH(int, count);
     SoMFInt32 field;
     fillWithNumbers(field, rows);
-    const QString before = textsOf(field);
+    const QString before = rowsInOneLine(field);
     ReportLog log;
     SbString text("untouched");
     QVERIFY(!SoMFieldRows::deleteValues(&field, start, count));
     QVERIFY(!SoMFieldRows::readTexts(&field, start, count, &text));
     QCOMPARE(log.taken().size(), 2);
     QCOMPARE(text.getString(), "untouched");
-    QCOMPARE(textsOf(field), before);
+    QCOMPARE(rowsInOneLine(field), before);
 }
 
 void tst_SoMFieldRowsOutside::roomOutsideIsNotMade_data()
@@ -118,7 +119,7 @@ void tst_SoMFieldRowsOutside::roomOutsideIsNotMade()
     QVERIFY(!SoMFieldRows::insertEmpty(&field, start, count));
     QVERIFY(!SoMFieldRows::insertTexts(&field, start, count, &text));
     QCOMPARE(log.taken().size(), 3);
-    QCOMPARE(textsOf(field), "10 11 12");
+    QCOMPARE(rowsInOneLine(field), "10 11 12");
 }
 
 void tst_SoMFieldRowsOutside::theWarningNamesFunctionFieldAndRows()
@@ -150,7 +151,7 @@ void tst_SoMFieldRowsOutside::noRowsAreNoChange()
         QVERIFY(SoMFieldRows::insertTexts(&field, 1, 0, nullptr));
     });
     QCOMPARE(notifications, 0);
-    QCOMPARE(textsOf(field), "10 11 12");
+    QCOMPARE(rowsInOneLine(field), "10 11 12");
     QCOMPARE(log.taken(), QStringList());
 }
 

@@ -5,9 +5,9 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QString>
 
-/** A field's value as its text, in one line: the lists of multiple values are written in several.
- */
+/** A field's value as its text, in one line also where the field writes several. */
 inline QByteArray textOf(SoField& field)
 {
     SbString text;
@@ -25,4 +25,10 @@ inline QList<QByteArray> rowTextsOf(SoMField& field)
         texts << QByteArray(text.getString(), text.getLength());
     }
     return texts;
+}
+
+/** The texts of all rows, separated by blanks. */
+inline QString rowsInOneLine(SoMField& field)
+{
+    return QString::fromUtf8(rowTextsOf(field).join(' '));
 }

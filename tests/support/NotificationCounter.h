@@ -38,3 +38,11 @@ private:
     SoFieldSensor m_sensor;
     int m_count = 0;
 };
+
+/** How often the change notifies those who watch the field. */
+inline int notificationsOf(SoField& field, const std::function<void()>& change)
+{
+    NotificationCounter counter(field);
+    change();
+    return counter.take();
+}

@@ -1,13 +1,12 @@
 #include "lib/HostFieldSummary.h"
 
+#include "tests/support/SceneTypes.h"
 #include "tests/support/TestMain.h"
 
 #include <Inventor/SoPath.h>
 #include <Inventor/engines/SoCalculator.h>
 #include <Inventor/fields/SoFields.h>
-#include <Inventor/lists/SoTypeList.h>
 #include <Inventor/nodes/SoCube.h>
-#include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoSeparator.h>
 
 class tst_HostFieldSummary : public QObject
@@ -164,19 +163,12 @@ void tst_HostFieldSummary::aLongTextIsCut()
 
 void tst_HostFieldSummary::everyFieldTypeThatCanBeMadeIsShown_data()
 {
-    QTest::addColumn<QString>("type");
-    SoTypeList types;
-    SoType::getAllDerivedFrom(SoField::getClassTypeId(), types);
-    for (int i = 0; i < types.getLength(); ++i)
-        if (types[i].canCreateInstance())
-            QTest::newRow(types[i].getName().getString()) << types[i].getName().getString();
+    addTypeRows(creatableTypes(SoField::getClassTypeId()));
 }
 
 void tst_HostFieldSummary::everyFieldTypeThatCanBeMadeIsShown()
 {
-    QFETCH(QString, type);
-    const SoType fieldType = SoType::fromName(type.toUtf8().constData());
-    const std::unique_ptr<SoField> field(static_cast<SoField*>(fieldType.createInstance()));
+    const std::unique_ptr<SoField> field(newOfRowType<SoField>());
     const QString empty = HostFieldSummary::text(*field);
     QVERIFY(!empty.contains('\n'));
     if (!field->isOfType(SoMField::getClassTypeId()))

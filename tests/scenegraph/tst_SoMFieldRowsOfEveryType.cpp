@@ -1,12 +1,12 @@
 #include "scenegraph/SoMFieldRows.h"
 
 #include "tests/support/ReportLog.h"
+#include "tests/support/SceneTypes.h"
 #include "tests/support/TestMain.h"
 
 #include <Inventor/SoPath.h>
 #include <Inventor/engines/SoCalculator.h>
 #include <Inventor/fields/SoFields.h>
-#include <Inventor/lists/SoTypeList.h>
 #include <Inventor/nodes/SoCone.h>
 
 #include <QRegularExpression>
@@ -114,23 +114,12 @@ private:
 
 void tst_SoMFieldRowsOfEveryType::everyType()
 {
-    QTest::addColumn<int>("key");
-    SoTypeList types;
-    SoType::getAllDerivedFrom(SoMField::getClassTypeId(), types);
-    for (int i = 0; i < types.getLength(); ++i)
-        if (types[i].canCreateInstance())
-            QTest::newRow(types[i].getName().getString()) << int(types[i].getKey());
+    addTypeRows(creatableTypes(SoMField::getClassTypeId()));
 }
 
 FieldPointer tst_SoMFieldRowsOfEveryType::fetchedField()
 {
-    const int key = *static_cast<int*>(QTest::qData("key", qMetaTypeId<int>()));
-    SoTypeList types;
-    SoType::getAllDerivedFrom(SoMField::getClassTypeId(), types);
-    for (int i = 0; i < types.getLength(); ++i)
-        if (types[i].getKey() == key)
-            return FieldPointer(static_cast<SoMField*>(types[i].createInstance()));
-    return nullptr;
+    return FieldPointer(newOfRowType<SoMField>());
 }
 
 void tst_SoMFieldRowsOfEveryType::compareInserted(const FieldPointer& field, int start, int count,
@@ -148,8 +137,7 @@ void tst_SoMFieldRowsOfEveryType::compareInserted(const FieldPointer& field, int
 
 void tst_SoMFieldRowsOfEveryType::thereAreManyTypes()
 {
-    SoTypeList types;
-    QVERIFY(SoType::getAllDerivedFrom(SoMField::getClassTypeId(), types) > 40);
+    QVERIFY(creatableTypes(SoMField::getClassTypeId()).size() >= 40);
 }
 
 void tst_SoMFieldRowsOfEveryType::theRowsOfAnEmptyFieldAreZero()

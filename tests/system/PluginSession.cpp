@@ -41,6 +41,20 @@ QWidget* PluginSession::editor() const
     return nullptr;
 }
 
+void PluginSession::undoAll()
+{
+    while (history().canUndo())
+        history().undo();
+    run();
+}
+
+void PluginSession::redoAll()
+{
+    while (history().canRedo())
+        history().redo();
+    run();
+}
+
 void PluginSession::run()
 {
     m_pump.pump();

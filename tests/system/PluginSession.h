@@ -24,6 +24,8 @@ public:
     /** The shown editor's widget; null where none is shown. */
     QWidget* editor() const;
     QUndoStack& history() { return m_services.undoStack().stack(); }
+    void undoAll();
+    void redoAll();
     /** Runs the event loop and Coin's sensors once. */
     void run();
     /** The keyboard goes on to a widget outside of the editor. */

@@ -1,13 +1,12 @@
 #include "tests/support/FieldBits.h"
+#include "tests/support/SceneTypes.h"
 #include "tests/support/TestMain.h"
 #include "tests/system/PluginSession.h"
 
+#include <Inventor/errors/SoDebugError.h>
 #include <Inventor/errors/SoReadError.h>
 #include <Inventor/fields/SoSFNode.h>
 #include <Inventor/fields/SoSField.h>
-#include <Inventor/lists/SoFieldList.h>
-#include <Inventor/lists/SoTypeList.h>
-#include <Inventor/nodes/SoNode.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -17,42 +16,11 @@
 
 namespace {
 
-QVector<SoType> nodeTypes()
-{
-    SoTypeList list;
-    SoType::getAllDerivedFrom(SoNode::getClassTypeId(), list);
-    QVector<SoType> types;
-    for (int i = 0; i < list.getLength(); ++i) {
-        if (list[i].canCreateInstance())
-            types << list[i];
-    }
-    return types;
-}
-
-QVector<SoField*> singleFieldsOf(const SoNode& node)
-{
-    SoFieldList all;
-    node.getFields(all);
-    QVector<SoField*> fields;
-    for (int i = 0; i < all.getLength(); ++i) {
-        if (all[i]->isOfType(SoSField::getClassTypeId()))
-            fields << all[i];
-    }
-    return fields;
-}
-
-QByteArray nameOf(const SoNode& node, SoField& field)
-{
-    SbName name;
-    node.getFieldName(&field, name);
-    return QByteArray(node.getTypeId().getName().getString()) + '.' + name.getString();
-}
-
 /** All of a node's values, to the last bit. */
 QByteArray bitsOfAll(const SoNode& node)
 {
     QByteArray bits;
-    for (SoField* field : singleFieldsOf(node))
+    for (SoSField* field : fieldsOf<SoSField>(node))
         bits += bitsOf(*field) + '|';
     return bits;
 }
@@ -117,17 +85,6 @@ void pressButtons(PluginSession& session, const QWidget& editor)
     session.run();
 }
 
-void undoAndRedoAll(PluginSession& session)
-{
-    QUndoStack& history = session.history();
-    while (history.canUndo())
-        history.undo();
-    session.run();
-    while (history.canRedo())
-        history.redo();
-    session.run();
-}
-
 void keepQuiet(const SoError*, void*) {}
 
 } // namespace
@@ -142,14 +99,7 @@ private:
     std::unique_ptr<PluginSession> m_session;
     int m_changed = 0; ///< fields that an edit has given another value
 
-    static void addNodeTypes()
-    {
-        QTest::addColumn<QByteArray>("type");
-        for (const SoType type : nodeTypes()) {
-            const QByteArray name = type.getName().getString();
-            QTest::newRow(name.constData()) << name;
-        }
-    }
+    static void addNodeTypes() { addTypeRows(creatableTypes(SoNode::getClassTypeId())); }
 
 private slots:
     void initTestCase()
@@ -163,18 +113,19 @@ private slots:
     }
     void cleanupTestCase() { m_session.reset(); }
 
-    void thereAreNodesOfManyTypes() { QVERIFY(nodeTypes().size() > 200); }
+    void thereAreNodesOfManyTypes()
+    {
+        QVERIFY(creatableTypes(SoNode::getClassTypeId()).size() > 200);
+    }
 
     void lookingAtAFieldChangesNothing_data() { addNodeTypes(); }
     void lookingAtAFieldChangesNothing()
     {
-        QFETCH(QByteArray, type);
-        auto* const node =
-            static_cast<SoNode*>(SoType::fromName(type.constData()).createInstance());
+        auto* const node = newOfRowType<SoNode>();
         node->ref();
         m_session->selectNode(node);
         const QByteArray before = bitsOfAll(*node);
-        for (SoField* field : singleFieldsOf(*node)) {
+        for (SoSField* field : fieldsOf<SoSField>(*node)) {
             const bool wasDefault = field->isDefault();
             m_session->selectField(field);
             QVERIFY2(m_session->editor(), nameOf(*node, *field).constData());
@@ -193,12 +144,10 @@ private slots:
     void everyFieldCanBeEditedUndoneAndRedone_data() { addNodeTypes(); }
     void everyFieldCanBeEditedUndoneAndRedone()
     {
-        QFETCH(QByteArray, type);
-        auto* const node =
-            static_cast<SoNode*>(SoType::fromName(type.constData()).createInstance());
+        auto* const node = newOfRowType<SoNode>();
         node->ref();
         m_session->selectNode(node);
-        for (SoField* field : singleFieldsOf(*node)) {
+        for (SoSField* field : fieldsOf<SoSField>(*node)) {
             const QByteArray name = nameOf(*node, *field);
             m_session->selectField(field);
             QVERIFY2(m_session->editor(), name.constData());
@@ -208,7 +157,8 @@ private slots:
             pressButtons(*m_session, *m_session->editor());
             // At the least its ignore flag.
             QVERIFY2(m_session->history().count() > 0, name.constData());
-            undoAndRedoAll(*m_session);
+            m_session->undoAll();
+            m_session->redoAll();
             m_session->selectField(nullptr);
             m_session->history().clear();
         }

@@ -1,7 +1,9 @@
 #include "tests/support/FieldTexts.h"
+#include "tests/support/SceneTypes.h"
 #include "tests/support/TestMain.h"
 #include "tests/system/PluginSession.h"
 
+#include <Inventor/errors/SoDebugError.h>
 #include <Inventor/errors/SoReadError.h>
 #include <Inventor/fields/SoMFBool.h>
 #include <Inventor/fields/SoMFEngine.h>
@@ -9,9 +11,6 @@
 #include <Inventor/fields/SoMFNode.h>
 #include <Inventor/fields/SoMFPath.h>
 #include <Inventor/fields/SoMFRotation.h>
-#include <Inventor/lists/SoFieldList.h>
-#include <Inventor/lists/SoTypeList.h>
-#include <Inventor/nodes/SoNode.h>
 
 #include <QAbstractButton>
 #include <QTableWidget>
@@ -19,43 +18,6 @@
 #include <memory>
 
 namespace {
-
-QVector<SoMField*> multipleFieldsOf(const SoNode& node)
-{
-    SoFieldList all;
-    node.getFields(all);
-    QVector<SoMField*> fields;
-    for (int i = 0; i < all.getLength(); ++i) {
-        if (all[i]->isOfType(SoMField::getClassTypeId()))
-            fields << static_cast<SoMField*>(all[i]);
-    }
-    return fields;
-}
-
-/** The types of node that have such a field. */
-QVector<SoType> nodeTypes()
-{
-    SoTypeList list;
-    SoType::getAllDerivedFrom(SoNode::getClassTypeId(), list);
-    QVector<SoType> types;
-    for (int i = 0; i < list.getLength(); ++i) {
-        if (!list[i].canCreateInstance())
-            continue;
-        auto* const node = static_cast<SoNode*>(list[i].createInstance());
-        node->ref();
-        if (!multipleFieldsOf(*node).isEmpty())
-            types << list[i];
-        node->unref();
-    }
-    return types;
-}
-
-QByteArray nameOf(const SoNode& node, const SoMField& field)
-{
-    SbName name;
-    node.getFieldName(&field, name);
-    return QByteArray(node.getTypeId().getName().getString()) + '.' + name.getString();
-}
 
 /** Copies of a node's fields, to compare with to the last bit: objects by their address. */
 std::vector<std::unique_ptr<SoMField>> copiesOf(const QVector<SoMField*>& fields)
@@ -157,20 +119,6 @@ struct ShownEditor
     QTableWidget* table;
 };
 
-void undoAll(PluginSession& session)
-{
-    while (session.history().canUndo())
-        session.history().undo();
-    session.run();
-}
-
-void redoAll(PluginSession& session)
-{
-    while (session.history().canRedo())
-        session.history().redo();
-    session.run();
-}
-
 void keepQuiet(const SoError*, void*) {}
 
 } // namespace
@@ -185,23 +133,7 @@ private:
     std::unique_ptr<PluginSession> m_session;
     int m_changed = 0; ///< fields that an edit has given another value
 
-    static void addNodeTypes()
-    {
-        QTest::addColumn<QByteArray>("type");
-        for (const SoType type : nodeTypes()) {
-            const QByteArray name = type.getName().getString();
-            QTest::newRow(name.constData()) << name;
-        }
-    }
-
-    static SoNode* newNode()
-    {
-        QFETCH(QByteArray, type);
-        auto* const node =
-            static_cast<SoNode*>(SoType::fromName(type.constData()).createInstance());
-        node->ref();
-        return node;
-    }
+    static void addNodeTypes() { addTypeRows(nodeTypesWith<SoMField>()); }
 
     /** Adds a row, edits one, deletes one; answers whether the edit gave another value. */
     static bool use(PluginSession& session, SoMField& field)
@@ -232,14 +164,15 @@ private slots:
     }
     void cleanupTestCase() { m_session.reset(); }
 
-    void thereAreNodesOfManyTypes() { QVERIFY(nodeTypes().size() > 80); }
+    void thereAreNodesOfManyTypes() { QVERIFY(nodeTypesWith<SoMField>().size() > 80); }
 
     void lookingAtAFieldChangesNothing_data() { addNodeTypes(); }
     void lookingAtAFieldChangesNothing()
     {
-        SoNode* const node = newNode();
+        auto* const node = newOfRowType<SoNode>();
+        node->ref();
         m_session->selectNode(node);
-        const QVector<SoMField*> fields = multipleFieldsOf(*node);
+        const QVector<SoMField*> fields = fieldsOf<SoMField>(*node);
         const auto copies = copiesOf(fields);
         for (SoMField* field : fields) {
             const QByteArray name = nameOf(*node, *field);
@@ -265,9 +198,10 @@ private slots:
     void everyFieldCanBeEditedUndoneAndRedone_data() { addNodeTypes(); }
     void everyFieldCanBeEditedUndoneAndRedone()
     {
-        SoNode* const node = newNode();
+        auto* const node = newOfRowType<SoNode>();
+        node->ref();
         m_session->selectNode(node);
-        for (SoMField* field : multipleFieldsOf(*node)) {
+        for (SoMField* field : fieldsOf<SoMField>(*node)) {
             const QByteArray name = nameOf(*node, *field);
             const int rows = field->getNum();
             m_session->selectField(field);
@@ -279,9 +213,9 @@ private slots:
             const QList<QByteArray> used = rowTextsOf(*field);
             // A row added, a row deleted, the ignore flag, and for most types the edit.
             QVERIFY2(m_session->history().count() >= 3, name.constData());
-            undoAll(*m_session);
+            m_session->undoAll();
             QVERIFY2(field->getNum() == rows && !field->isIgnored(), name.constData());
-            redoAll(*m_session);
+            m_session->redoAll();
             QVERIFY2(field->getNum() == rows && field->isIgnored(), name.constData());
             // A rotation comes back from its text a little other than it went.
             if (!field->isOfType(SoMFRotation::getClassTypeId()))

@@ -2,9 +2,8 @@
 
 #include "tests/support/FieldTexts.h"
 #include "tests/support/RecordingServices.h"
+#include "tests/support/SceneTypes.h"
 #include "tests/support/TestMain.h"
-
-#include <Inventor/nodes/SoNode.h>
 
 namespace {
 
@@ -43,33 +42,25 @@ private slots:
 
 void tst_DvDefaultValueOfEveryNode::everyFieldGoesBackToItsDefault_data()
 {
-    QTest::addColumn<QByteArray>("type");
-    SoTypeList types;
-    SoType::getAllDerivedFrom(SoNode::getClassTypeId(), types);
-    for (int i = 0; i < types.getLength(); ++i)
-        if (types[i].canCreateInstance())
-            QTest::newRow(types[i].getName().getString()) << QByteArray(types[i].getName());
+    addTypeRows(creatableTypes(SoNode::getClassTypeId()));
 }
 
 void tst_DvDefaultValueOfEveryNode::everyFieldGoesBackToItsDefault()
 {
     RecordingServices services;
-    QFETCH(QByteArray, type);
-    auto* const node = static_cast<SoNode*>(SoType::fromName(type.constData()).createInstance());
+    auto* const node = newOfRowType<SoNode>();
     node->ref();
-    SoFieldList fields;
-    node->getFields(fields);
-    for (int i = 0; i < fields.getLength(); ++i) {
-        SoField& field = *fields[i];
+    const QVector<SoField*> fields = fieldsOf<SoField>(*node);
+    for (SoField* each : fields) {
+        SoField& field = *each;
         const QByteArrayList defaultText = roundedTextOf(field);
         change(field);
         DvDefaultValue::restore(field);
-        SbName name;
-        node->getFieldName(&field, name);
-        QVERIFY2(field.isDefault(), name.getString());
-        QVERIFY2(roundedTextOf(field) == defaultText, name.getString());
+        const QByteArray name = nameOf(*node, field);
+        QVERIFY2(field.isDefault(), name.constData());
+        QVERIFY2(roundedTextOf(field) == defaultText, name.constData());
     }
-    QCOMPARE(services.count(), fields.getLength());
+    QCOMPARE(services.count(), fields.size());
     node->unref();
 }
 

@@ -1,13 +1,11 @@
 #include "tests/support/EditorRig.h"
 #include "tests/support/ImageFields.h"
 #include "tests/support/NotificationCounter.h"
+#include "tests/support/SceneTypes.h"
 #include "tests/support/TestMain.h"
 
 #include "FieldEditors/SFWidgets/DvSFImageLabel.h"
 #include "FieldEditors/SFWidgets/DvSFImageWidget.h"
-
-#include <Inventor/lists/SoFieldList.h>
-#include <Inventor/lists/SoTypeList.h>
 
 #include <QPushButton>
 
@@ -27,34 +25,6 @@ private:
     {
         setCountingImage(rig.node->sfImage, width, height, components);
         EditorRig::runSensors();
-    }
-
-    /** Every node type that has an image, as a row each. */
-    static void addImageNodes()
-    {
-        QTest::addColumn<QByteArray>("node");
-        SoTypeList types;
-        SoType::getAllDerivedFrom(SoNode::getClassTypeId(), types);
-        for (int i = 0; i < types.getLength(); ++i) {
-            if (!types[i].canCreateInstance())
-                continue;
-            auto* const node = static_cast<SoNode*>(types[i].createInstance());
-            node->ref();
-            if (imageOf(*node))
-                QTest::newRow(types[i].getName()) << QByteArray(types[i].getName().getString());
-            node->unref();
-        }
-    }
-
-    static SoSFImage* imageOf(const SoNode& node)
-    {
-        SoFieldList fields;
-        node.getFields(fields);
-        for (int i = 0; i < fields.getLength(); ++i) {
-            if (fields[i]->isOfType(SoSFImage::getClassTypeId()))
-                return static_cast<SoSFImage*>(fields[i]);
-        }
-        return nullptr;
     }
 
 private slots:
@@ -182,25 +152,24 @@ private slots:
         QCOMPARE(rig.host.services.count(), 0);
     }
 
-    void theDefaultIsTheNodesOwn_data() { addImageNodes(); }
+    void theDefaultIsTheNodesOwn_data() { addTypeRows(nodeTypesWith<SoSFImage>()); }
     void theDefaultIsTheNodesOwn()
     {
-        QFETCH(QByteArray, node);
-        const SoType type = SoType::fromName(node.constData());
-        auto* const container = static_cast<SoNode*>(type.createInstance());
-        container->ref();
+        auto* const node = newOfRowType<SoNode>();
+        node->ref();
+        SoSFImage& image = *fieldsOf<SoSFImage>(*node).first();
         DvSFImageWidget editor;
         EditorRig rig(editor, "sfImage");
-        rig.edit(*imageOf(*container));
+        rig.edit(image);
         const QString fresh = rig.text();
-        setCountingImage(*imageOf(*container), 4, 4, 3);
+        setCountingImage(image, 4, 4, 3);
         QTest::mouseClick(rig.find<QPushButton>("m_defaultButton"), Qt::LeftButton);
         EditorRig::runSensors();
         QCOMPARE(rig.text(), fresh); // "0 0 1" for one of them
         QCOMPARE(box(rig)->maximumSize(), QSize(0, 0));
         QVERIFY(picture(rig).isNull());
         QCOMPARE(rig.host.services.count(), 1);
-        container->unref();
+        node->unref();
     }
 };
 

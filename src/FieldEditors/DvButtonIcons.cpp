@@ -1,423 +1,58 @@
 #include "FieldEditors/DvButtonIcons.h"
 
+#include "FieldEditors/icons/addRow.xpm"
+#include "FieldEditors/icons/deleteRow.xpm"
+#include "FieldEditors/icons/edit.xpm"
+#include "FieldEditors/icons/ignore.xpm"
+#include "FieldEditors/icons/rowDown.xpm"
+#include "FieldEditors/icons/rowUp.xpm"
+#include "FieldEditors/icons/setToDefault.xpm"
+
 #include <QPixmap>
 
 namespace {
 
-// clang-format off
-const char* const s_defaultIcon[] = {
-    "16 16 64 1",
-    "  c None",
-    ". c #3767AB",
-    "+ c #3868AC",
-    "@ c #3968AC",
-    "# c #3969AC",
-    "$ c #3A69AD",
-    "% c #3A6AAD",
-    "& c #3B6AAD",
-    "* c #3B6AAE",
-    "= c #3C6BAE",
-    "- c #3C6CAE",
-    "; c #3D6CAF",
-    "> c #3D6DAF",
-    ", c #3E6DAF",
-    "' c #3E6DB0",
-    ") c #3F6EB0",
-    "! c #406FB1",
-    "~ c #4170B1",
-    "{ c #4170B2",
-    "] c #4271B2",
-    "^ c #4372B3",
-    "/ c #4473B3",
-    "( c #4473B4",
-    "_ c #4674B5",
-    ": c #4675B5",
-    "< c #4775B5",
-    "[ c #4776B6",
-    "} c #4877B6",
-    "| c #4977B7",
-    "1 c #4978B7",
-    "2 c #4A78B8",
-    "3 c #4A79B8",
-    "4 c #4B7AB9",
-    "5 c #4C7BB9",
-    "6 c #4D7BBA",
-    "7 c #4E7CBA",
-    "8 c #4F7DBB",
-    "9 c #507EBC",
-    "0 c #507FBC",
-    "a c #5280BD",
-    "b c #5381BE",
-    "c c #5382BE",
-    "d c #5482BE",
-    "e c #5482BF",
-    "f c #5583BF",
-    "g c #5684C0",
-    "h c #5785C1",
-    "i c #5886C1",
-    "j c #5886C2",
-    "k c #5986C2",
-    "l c #5987C2",
-    "m c #5A88C3",
-    "n c #5B88C3",
-    "o c #5B89C3",
-    "p c #5B89C4",
-    "q c #5C89C4",
-    "r c #5C8AC4",
-    "s c #5D8AC5",
-    "t c #5D8BC5",
-    "u c #5E8CC5",
-    "v c #5F8DC6",
-    "w c #608DC7",
-    "x c #618EC7",
-    "y c #6390C9",
-    "                ",
-    " y              ",
-    " xwvutrqom      ",
-    " tsrpnmlkihg    ",
-    " nmljihggfecb   ",
-    "  hgg     a098  ",
-    "  ed       765  ",
-    "  a         21| ",
-    "  76        [:_ ",
-    "  432       (^^ ",
-    "  }[<      {{!  ",
-    "   (/^    ))',  ",
-    "   ]~!)'>;-=*   ",
-    "    ';-=&%#@    ",
-    "      $@+..     ",
-    "                ",
-};
-
-const char* const s_ignoreIcon[] = {
-    "16 16 63 1",
-    "  c None",
-    ". c #676E7A",
-    "+ c #696D78",
-    "@ c #6A6E79",
-    "# c #686F7C",
-    "$ c #6A6F79",
-    "% c #6A6F7B",
-    "& c #60768E",
-    "* c #6A6F7A",
-    "= c #5C7A98",
-    "- c #6B707C",
-    "; c #6B707D",
-    "> c #5B7B9A",
-    ", c #6A7280",
-    "' c #6C717E",
-    ") c #5B7C9D",
-    "! c #6A7281",
-    "~ c #6C717D",
-    "{ c #617A96",
-    "] c #5B7EA0",
-    "^ c #5D80A4",
-    "/ c #6E727D",
-    "( c #6E737E",
-    "_ c #6F747F",
-    ": c #7289A1",
-    "< c #768EA7",
-    "[ c #8F939B",
-    "} c #92969F",
-    "| c #9E251F",
-    "1 c #A22620",
-    "2 c #A52720",
-    "3 c #A92821",
-    "4 c #AB2822",
-    "5 c #B12A23",
-    "6 c #B32A23",
-    "7 c #B42B24",
-    "8 c #B92C25",
-    "9 c #BC2D25",
-    "0 c #C12E26",
-    "a c #C2C4CA",
-    "b c #C42F27",
-    "c c #C4C6CC",
-    "d c #C6C8CE",
-    "e c #C7CAD0",
-    "f c #C83028",
-    "g c #CA3028",
-    "h c #CB3129",
-    "i c #D0322A",
-    "j c #D3332A",
-    "k c #D8342B",
-    "l c #D9352C",
-    "m c #DB352C",
-    "n c #DF362D",
-    "o c #DFE3E8",
-    "p c #E1372E",
-    "q c #E3E7EC",
-    "r c #E7382F",
-    "s c #E9392F",
-    "t c #EF3A31",
-    "u c #F23B31",
-    "v c #F73C32",
-    "w c #F83D33",
-    "x c #FD3E34",
-    "                ",
-    "             x  ",
-    "            vww ",
-    "           ttu  ",
-    "     ''!! rss   ",
-    "   -;,{^ npp    ",
-    "  *-}<] klm ~'  ",
-    " $/co) iij qe_; ",
-    " @~ao fgh )od(- ",
-    "  +$ 00b >:[*%  ",
-    "    889 =&#@$   ",
-    "   567 +.++     ",
-    "  344           ",
-    " 112            ",
-    "  |             ",
-    "                ",
-};
-const char* const s_editIcon[] = {
-    "16 16 48 1",
-    "  c None",
-    ". c #28211E",
-    "+ c #302720",
-    "@ c #392E21",
-    "# c #586375",
-    "$ c #5E6879",
-    "% c #614D25",
-    "& c #626E81",
-    "* c #6D7684",
-    "= c #707A8A",
-    "- c #738299",
-    "; c #798497",
-    "> c #848FA0",
-    ", c #8793A7",
-    "' c #8A93A0",
-    ") c #8F6F28",
-    "! c #929EB0",
-    "~ c #939BA7",
-    "{ c #987528",
-    "] c #99A4B4",
-    "^ c #A0A6AF",
-    "/ c #A3ACB9",
-    "( c #A8B1BF",
-    "_ c #AB842B",
-    ": c #AB8837",
-    "< c #AFB4BA",
-    "[ c #B1882C",
-    "} c #B2B9C4",
-    "| c #B6BEC9",
-    "1 c #B78D2E",
-    "2 c #BABEC1",
-    "3 c #BD922F",
-    "4 c #BEC6D1",
-    "5 c #BF6262",
-    "6 c #C07153",
-    "7 c #C19A3F",
-    "8 c #C39631",
-    "9 c #C46464",
-    "0 c #C99B32",
-    "a c #C9A247",
-    "b c #C9D0DA",
-    "c c #CBCFD2",
-    "d c #CD8C45",
-    "e c #CE9C36",
-    "f c #D0D5D8",
-    "g c #D3995C",
-    "h c #DCE0E4",
-    "i c #E1E6EA",
-    "                ",
-    " -----------    ",
-    " ,bb(]bb!44     ",
-    " ,ii|(ii]fg999  ",
-    " ,hh}/hh/ad555  ",
-    " =>>;;>;7ee66   ",
-    " >ff(]fa0000    ",
-    " ;cc/'78888     ",
-    " =~~':3333 &    ",
-    " =/^:1111 <=    ",
-    " =2 [[[[ <2=    ",
-    " $=%@)_ #*=$    ",
-    "   .+{          ",
-    "  ..            ",
-    "                ",
-    "                ",
-};
-const char* const s_addRowIcon[] = {
-    "16 16 15 1",
-    "  c None",
-    ". c #25772F",
-    "+ c #277B31",
-    "@ c #298033",
-    "# c #2A8535",
-    "$ c #2C8A37",
-    "% c #2C8B37",
-    "& c #2E8F39",
-    "* c #2F943B",
-    "= c #31983D",
-    "- c #31993D",
-    "; c #339E3F",
-    "> c #34A342",
-    ", c #36A844",
-    "' c #38AD46",
-    "                ",
-    "                ",
-    "      ''''      ",
-    "      ,,,,      ",
-    "      >>>>      ",
-    "      ;;;;      ",
-    "  ====----====  ",
-    "  ************  ",
-    "  &&&&&&&&&&&&  ",
-    "  %%%%$$$$%%%%  ",
-    "      ####      ",
-    "      @@@@      ",
-    "      ++++      ",
-    "      ....      ",
-    "                ",
-    "                ",
-};
-
-const char* const s_deleteRowIcon[] = {
-    "16 16 5 1",
-    "  c None",
-    ". c #A6342C",
-    "+ c #AB352E",
-    "@ c #B2372F",
-    "# c #B73931",
-    "                ",
-    "                ",
-    "                ",
-    "                ",
-    "                ",
-    "                ",
-    "  ############  ",
-    "  @@@@@@@@@@@@  ",
-    "  ++++++++++++  ",
-    "  ............  ",
-    "                ",
-    "                ",
-    "                ",
-    "                ",
-    "                ",
-    "                ",
-};
-
-const char* const s_rowUpIcon[] = {
-    "16 16 19 1",
-    "  c None",
-    ". c #2B5E90",
-    "+ c #2D6296",
-    "@ c #2F659B",
-    "# c #3169A1",
-    "$ c #336CA7",
-    "% c #356FAC",
-    "& c #3670AD",
-    "* c #3670AE",
-    "= c #3772B1",
-    "- c #3773B2",
-    "; c #3975B6",
-    "> c #3976B7",
-    ", c #3B79BC",
-    "' c #3B79BD",
-    ") c #3D7CC2",
-    "! c #3D7DC3",
-    "~ c #3F80C8",
-    "{ c #4183CD",
-    "                ",
-    "                ",
-    "       {{       ",
-    "      ~~~~      ",
-    "     )!!!!)     ",
-    "    ,'''''',    ",
-    "   ;>>>>>>>>;   ",
-    "  =----------=  ",
-    "  ***&%%%%&***  ",
-    "      $$$$      ",
-    "      ####      ",
-    "      @@@@      ",
-    "      ++++      ",
-    "      ....      ",
-    "                ",
-    "                ",
-};
-
-const char* const s_rowDownIcon[] = {
-    "16 16 20 1",
-    "  c None",
-    ". c #2C5F91",
-    "+ c #2D6296",
-    "@ c #2E6296",
-    "# c #2F659B",
-    "$ c #30669C",
-    "% c #3169A1",
-    "& c #3269A2",
-    "* c #336CA7",
-    "= c #346DA8",
-    "- c #356FAC",
-    "; c #3670AD",
-    "> c #3772B0",
-    ", c #3772B1",
-    "' c #3773B2",
-    ") c #3976B7",
-    "! c #3B79BD",
-    "~ c #3D7DC3",
-    "{ c #3F80C8",
-    "] c #4184CE",
-    "                ",
-    "                ",
-    "      ]]]]      ",
-    "      {{{{      ",
-    "      ~~~~      ",
-    "      !!!!      ",
-    "      ))))      ",
-    "  >>>,'''',>>>  ",
-    "  ;----------;  ",
-    "   =********=   ",
-    "    &%%%%%%&    ",
-    "     $####$     ",
-    "      @++@      ",
-    "       ..       ",
-    "                ",
-    "                ",
-};
-// clang-format on
+/** The icon of a drawing, made when it is first asked for: a pixmap needs the application. */
+template <const auto& drawing>
+const QIcon& iconOf()
+{
+    static const QIcon icon{QPixmap(drawing)};
+    return icon;
+}
 
 } // namespace
 
 const QIcon& DvButtonIcons::setToDefault()
 {
-    static const QIcon icon{QPixmap(s_defaultIcon)};
-    return icon;
+    return iconOf<setToDefault_xpm>();
 }
 
 const QIcon& DvButtonIcons::ignore()
 {
-    static const QIcon icon{QPixmap(s_ignoreIcon)};
-    return icon;
+    return iconOf<ignore_xpm>();
 }
 
 const QIcon& DvButtonIcons::edit()
 {
-    static const QIcon icon{QPixmap(s_editIcon)};
-    return icon;
+    return iconOf<edit_xpm>();
 }
 
 const QIcon& DvButtonIcons::addRow()
 {
-    static const QIcon icon{QPixmap(s_addRowIcon)};
-    return icon;
+    return iconOf<addRow_xpm>();
 }
 
 const QIcon& DvButtonIcons::deleteRow()
 {
-    static const QIcon icon{QPixmap(s_deleteRowIcon)};
-    return icon;
+    return iconOf<deleteRow_xpm>();
 }
 
 const QIcon& DvButtonIcons::rowUp()
 {
-    static const QIcon icon{QPixmap(s_rowUpIcon)};
-    return icon;
+    return iconOf<rowUp_xpm>();
 }
 
 const QIcon& DvButtonIcons::rowDown()
 {
-    static const QIcon icon{QPixmap(s_rowDownIcon)};
-    return icon;
+    return iconOf<rowDown_xpm>();
 }

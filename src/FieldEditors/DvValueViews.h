@@ -38,13 +38,20 @@ Component toComponent(double number)
     }
 }
 
-/** A value that is N components of one type, each reached by its index. */
-template <class FieldType, class ValueType, class Component, std::size_t N>
-struct DvComponentsView
+/** What every view names: its field class, the class of the field's value, and N numbers. */
+template <class FieldType, class ValueType, std::size_t N>
+struct DvViewTypes
 {
     using Field = FieldType;
     using Value = ValueType;
     using Numbers = std::array<double, N>;
+};
+
+/** A value that is N components of one type, each reached by its index. */
+template <class FieldType, class ValueType, class Component, std::size_t N>
+struct DvComponentsView : DvViewTypes<FieldType, ValueType, N>
+{
+    using typename DvViewTypes<FieldType, ValueType, N>::Numbers;
 
     static Numbers numbers(const ValueType& value)
     {
@@ -70,56 +77,36 @@ using DvVec2sView = DvComponentsView<SoSFVec2s, SbVec2s, short, 2>;
 using DvVec2i32View = DvComponentsView<SoSFVec2i32, SbVec2i32, int32_t, 2>;
 
 /** A plane as its normal and its distance from the origin. */
-struct DvPlaneView
+struct DvPlaneView : DvViewTypes<SoSFPlane, SbPlane, 4>
 {
-    using Field = SoSFPlane;
-    using Value = SbPlane;
-    using Numbers = std::array<double, 4>;
-
     static Numbers numbers(const SbPlane& plane);
     static SbPlane value(const Numbers& numbers);
 };
 
 /** A rotation as its axis and its angle in radians. */
-struct DvAxisAngleView
+struct DvAxisAngleView : DvViewTypes<SoSFRotation, SbRotation, 4>
 {
-    using Field = SoSFRotation;
-    using Value = SbRotation;
-    using Numbers = std::array<double, 4>;
-
     static Numbers numbers(const SbRotation& rotation);
     static SbRotation value(const Numbers& numbers);
 };
 
 /** A rotation as the four numbers of its quaternion. */
-struct DvQuaternionView
+struct DvQuaternionView : DvViewTypes<SoSFRotation, SbRotation, 4>
 {
-    using Field = SoSFRotation;
-    using Value = SbRotation;
-    using Numbers = std::array<double, 4>;
-
     static Numbers numbers(const SbRotation& rotation);
     static SbRotation value(const Numbers& numbers);
 };
 
 /** A box as its smallest corner, then its largest. */
-struct DvBox3sView
+struct DvBox3sView : DvViewTypes<SoSFBox3s, SbBox3s, 6>
 {
-    using Field = SoSFBox3s;
-    using Value = SbBox3s;
-    using Numbers = std::array<double, 6>;
-
     static Numbers numbers(const SbBox3s& box);
     static SbBox3s value(const Numbers& numbers);
 };
 
 /** A matrix, row by row. */
-struct DvMatrixView
+struct DvMatrixView : DvViewTypes<SoSFMatrix, SbMatrix, 16>
 {
-    using Field = SoSFMatrix;
-    using Value = SbMatrix;
-    using Numbers = std::array<double, 16>;
-
     static Numbers numbers(const SbMatrix& matrix);
     static SbMatrix value(const Numbers& numbers);
 };

@@ -44,7 +44,6 @@
 #include <QMainWindow>
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <functional>

@@ -1,7 +1,5 @@
 #include "TvkDefaults.h"
 
-#include <memory>
-
 namespace {
 /** The live plug-in object; unloadPlugin() deletes it. */
 TvkPlugin* s_plugin = nullptr;

@@ -6,7 +6,6 @@
 #include "scenegraph/SoTavrik.h"
 
 #include <QApplication>
-#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>

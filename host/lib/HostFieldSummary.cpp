@@ -3,7 +3,6 @@
 #include "lib/HostFullPath.h"
 #include "lib/HostText.h"
 
-#include <Inventor/SbImage.h>
 #include <Inventor/SbString.h>
 #include <Inventor/SoPath.h>
 #include <Inventor/engines/SoEngine.h>

@@ -3,7 +3,6 @@
 #include "TavrikHostExport.h"
 
 #include <QByteArray>
-#include <QVector>
 
 class HostShell;
 class QDockWidget;

@@ -1,6 +1,5 @@
 #include "lib/HostParents.h"
 
-#include <Inventor/SoType.h>
 #include <Inventor/lists/SoAuditorList.h>
 #include <Inventor/misc/SoBase.h>
 #include <Inventor/nodes/SoNode.h>

@@ -6,7 +6,6 @@
 
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>

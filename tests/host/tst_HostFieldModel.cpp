@@ -8,7 +8,6 @@
 #include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoCube.h>
 #include <Inventor/nodes/SoSeparator.h>
-#include <Inventor/nodes/SoTranslation.h>
 #include <Inventor/sensors/SoSensorManager.h>
 
 #include <QAbstractItemModelTester>

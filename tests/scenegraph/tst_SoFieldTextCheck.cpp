@@ -7,7 +7,6 @@
 #include <Inventor/fields/SoFields.h>
 #include <Inventor/nodekits/SoShapeKit.h>
 #include <Inventor/nodes/SoCone.h>
-#include <Inventor/nodes/SoCube.h>
 #include <Inventor/nodes/SoDrawStyle.h>
 #include <Inventor/sensors/SoFieldSensor.h>
 

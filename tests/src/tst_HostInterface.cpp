@@ -7,6 +7,8 @@
 #include <TvkProfile.h>
 #include <TvkProfileSetting.h>
 
+#include <Inventor/fields/SoSFFloat.h>
+
 #include <memory>
 
 namespace {

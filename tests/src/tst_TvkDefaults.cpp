@@ -3,8 +3,6 @@
 #include <TvkEditor.h>
 #include <TvkPlugin.h>
 
-#include <Inventor/fields/SoSField.h>
-
 #include <QProcess>
 
 #include <dlfcn.h>

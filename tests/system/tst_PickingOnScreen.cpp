@@ -7,7 +7,6 @@
 #include <Inventor/SbName.h>
 #include <Inventor/nodes/SoPerspectiveCamera.h>
 
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QTreeView>
 

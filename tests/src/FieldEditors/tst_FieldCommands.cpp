@@ -1,5 +1,3 @@
-#include "FieldEditors/TvkFieldIgnoredCommand.h"
-#include "FieldEditors/TvkFieldSetDefaultCommand.h"
 #include "FieldEditors/TvkMFSetFieldValueCommand.h"
 #include "FieldEditors/TvkMFSetValueCommand.h"
 #include "FieldEditors/TvkSFSetValueCommand.h"
@@ -8,12 +6,9 @@
 #include "tests/support/TestMain.h"
 
 #include <Inventor/fields/SoFields.h>
-#include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoCube.h>
 
 namespace {
-
-const char s_unicode[] = "\xc3\xa4 \xe2\x82\xac \xf0\x9d\x84\x9e";
 
 void addHardStrings()
 {
@@ -24,7 +19,7 @@ void addHardStrings()
     QTest::newRow("quotes") << QByteArray("say \"hello\"");
     QTest::newRow("quote before a line break") << QByteArray("a\"\nb");
     QTest::newRow("line breaks") << QByteArray("first\nsecond\n");
-    QTest::newRow("beyond ASCII") << QByteArray(s_unicode);
+    QTest::newRow("beyond ASCII") << QByteArray("\xc3\xa4 \xe2\x82\xac \xf0\x9d\x84\x9e");
     QTest::newRow("Latin-1 bytes") << QByteArray("gr\xfcn");
     QTest::newRow("like a list") << QByteArray("[ \"a\", \"b\" ]");
     QTest::newRow("comment") << QByteArray("a # b");
@@ -37,7 +32,7 @@ QByteArray bytes(const SbString& text)
 
 } // namespace
 
-/** The commands that write values, and those of a field's two buttons. */
+/** The commands that write values. */
 class tst_FieldCommands : public QObject
 {
     Q_OBJECT
@@ -58,17 +53,6 @@ private slots:
     void aNodeGivesWayToNoneAgain();
     void aRefusedTextNotifies();
     void aRefusedTextOfARowNotifies();
-
-    void ignoringIsUndoneAndRedone();
-    void anIgnoredFieldKeepsItsValue();
-    void keepsUndoNegatingTheFlagOfAnEditThatChangedNothing();
-
-    void keepsTheDefaultWhenUndone();
-    void aFieldSetToItsDefaultIsAtItsDefault();
-    void settingTheDefaultTellsSingleFromMultiple();
-    void aDefaultListOfHardStringsIsSet();
-    void aDefaultOfNoNodeIsSet();
-    void aRefusedDefaultLeavesTheFieldChanged();
 };
 
 void tst_FieldCommands::undoRestoresTheTextBeforeAndRedoTheTextRead()
@@ -239,114 +223,6 @@ void tst_FieldCommands::aRefusedTextOfARowNotifies()
     command.undo();
     QCOMPARE(counter.take(), 1);
     QCOMPARE(field.getNum(), 2);
-}
-
-void tst_FieldCommands::ignoringIsUndoneAndRedone()
-{
-    SoSFFloat field;
-    field.setIgnored(TRUE);
-    TvkFieldIgnoredCommand command(&field, true);
-    command.execute();
-    QVERIFY(field.isIgnored());
-    command.undo();
-    QVERIFY(!field.isIgnored());
-    command.redo();
-    QVERIFY(field.isIgnored());
-}
-
-void tst_FieldCommands::anIgnoredFieldKeepsItsValue()
-{
-    SoMFFloat field;
-    field.set("[ 1, 2 ]");
-    TvkFieldIgnoredCommand command(&field, true);
-    command.execute();
-    QCOMPARE(textOf(field), QByteArray("[ 1, 2 ]"));
-    command.undo();
-    QCOMPARE(textOf(field), QByteArray("[ 1, 2 ]"));
-}
-
-void tst_FieldCommands::keepsUndoNegatingTheFlagOfAnEditThatChangedNothing()
-{
-    SoSFFloat field;
-    TvkFieldIgnoredCommand command(&field, false);
-    command.execute();
-    QVERIFY(!field.isIgnored());
-    command.undo();
-    QVERIFY(field.isIgnored());
-}
-
-void tst_FieldCommands::keepsTheDefaultWhenUndone()
-{
-    SoSFFloat field;
-    SoSFFloat defaultField;
-    defaultField.setValue(2.0F);
-    field.setValue(7.0F);
-    field.setValue(2.0F);
-    TvkFieldSetDefaultCommand command(&field, &defaultField);
-    command.execute();
-    field.setValue(9.0F);
-    command.undo();
-    QCOMPARE(textOf(field), QByteArray("2"));
-}
-
-void tst_FieldCommands::aFieldSetToItsDefaultIsAtItsDefault()
-{
-    auto* const cone = new SoCone;
-    cone->ref();
-    cone->height.setValue(5.0F);
-    SoSFFloat defaultField;
-    defaultField.setValue(2.0F);
-    TvkFieldSetDefaultCommand command(&cone->height, &defaultField);
-    command.execute();
-    QVERIFY(cone->height.isDefault());
-    command.undo();
-    command.redo();
-    QVERIFY(cone->height.isDefault());
-    cone->unref();
-}
-
-void tst_FieldCommands::settingTheDefaultTellsSingleFromMultiple()
-{
-    SoSFFloat single;
-    single.setValue(1.0F);
-    SoMFFloat multiple;
-    QVERIFY(!TvkFieldSetDefaultCommand(&single, &single).isMultiple());
-    QVERIFY(TvkFieldSetDefaultCommand(&multiple, &multiple).isMultiple());
-}
-
-void tst_FieldCommands::aDefaultListOfHardStringsIsSet()
-{
-    SoMFString defaultField;
-    defaultField.set1Value(0, "ends in \\");
-    defaultField.set1Value(1, "a \"quote\"");
-    defaultField.set1Value(2, s_unicode);
-    SoMFString field;
-    field.set1Value(0, "other");
-    TvkFieldSetDefaultCommand command(&field, &defaultField);
-    command.execute();
-    QCOMPARE(rowTextsOf(field), rowTextsOf(defaultField));
-    QCOMPARE(bytes(field[0]), QByteArray("ends in \\"));
-}
-
-void tst_FieldCommands::aDefaultOfNoNodeIsSet()
-{
-    SoSFNode field;
-    field.setValue(new SoCube);
-    SoSFNode defaultField;
-    TvkFieldSetDefaultCommand command(&field, &defaultField);
-    command.execute();
-    QVERIFY(!field.getValue());
-}
-
-void tst_FieldCommands::aRefusedDefaultLeavesTheFieldChanged()
-{
-    SoSFFloat field;
-    field.setValue(1.0F);
-    SoSFString noNumber;
-    noNumber.setValue("two");
-    TvkFieldSetDefaultCommand command(&field, &noNumber);
-    command.execute();
-    QVERIFY(!field.isDefault());
 }
 
 TAVRIK_TEST_MAIN(tst_FieldCommands)

@@ -3,26 +3,13 @@
 #include "FieldEditors/TvkMFSwapRowsCommand.h"
 #include "tests/support/FieldTexts.h"
 #include "tests/support/NotificationCounter.h"
+#include "tests/support/StringRows.h"
 #include "tests/support/TestMain.h"
 
 #include <Inventor/fields/SoFields.h>
 #include <Inventor/nodes/SoCube.h>
 
 namespace {
-
-void fill(SoMFString& field, const QList<QByteArray>& strings)
-{
-    for (int row = 0; row < strings.size(); ++row)
-        field.set1Value(row, strings.at(row).constData());
-}
-
-QList<QByteArray> stringsOf(const SoMFString& field)
-{
-    QList<QByteArray> strings;
-    for (int row = 0; row < field.getNum(); ++row)
-        strings << field[row].getString();
-    return strings;
-}
 
 const QList<QByteArray> s_hardStrings = {"ends in \\", "a \"quote\"", "two\nlines",
                                          "\xc3\xa4 \xe2\x82\xac", ""};
@@ -57,7 +44,7 @@ private slots:
 void tst_FieldRowCommands::aRowInsertedIntoAStringFieldIsEmpty()
 {
     SoMFString field;
-    fill(field, {"0", "1", "2", "3", "4"});
+    fillWithStrings(field, {"0", "1", "2", "3", "4"});
     TvkMFAddRowsCommand command(&field, 4, 1);
     const QList<QByteArray> inserted = {"0", "1", "2", "3", "", "4"};
     command.execute();
@@ -71,7 +58,7 @@ void tst_FieldRowCommands::aRowInsertedIntoAStringFieldIsEmpty()
 void tst_FieldRowCommands::rowsAreInsertedAtTheEnd()
 {
     SoMFString field;
-    fill(field, {"0", "1"});
+    fillWithStrings(field, {"0", "1"});
     TvkMFAddRowsCommand command(&field, 2, 3);
     command.execute();
     QCOMPARE(stringsOf(field), QList<QByteArray>({"0", "1", "", "", ""}));
@@ -106,7 +93,7 @@ void tst_FieldRowCommands::newRowsOfNumbersAreDefined()
 void tst_FieldRowCommands::keepsOneSummaryNotificationAfterTheRowsWrites()
 {
     SoMFString field;
-    fill(field, {"a", "b"});
+    fillWithStrings(field, {"a", "b"});
     QList<QList<QByteArray>> seen;
     NotificationCounter counter(field);
     counter.onNotification = [&] { seen << stringsOf(field); };
@@ -122,7 +109,7 @@ void tst_FieldRowCommands::keepsOneSummaryNotificationAfterTheRowsWrites()
 void tst_FieldRowCommands::keepsTheSummaryNotificationOfNoRows()
 {
     SoMFString field;
-    fill(field, {"a"});
+    fillWithStrings(field, {"a"});
     NotificationCounter counter(field);
     TvkMFAddRowsCommand command(&field, 0, 0);
     command.execute();
@@ -134,7 +121,7 @@ void tst_FieldRowCommands::deletedRowsComeBackInTheirPlacesAndOrder()
 {
     SoMFString field;
     const QList<QByteArray> all = {"0", "1", "2", "3", "4", "5"};
-    fill(field, all);
+    fillWithStrings(field, all);
     TvkMFDeleteRowsCommand command(&field, 2, 3);
     command.execute();
     QCOMPARE(stringsOf(field), QList<QByteArray>({"0", "1", "5"}));
@@ -158,7 +145,7 @@ void tst_FieldRowCommands::allRowsComeBack()
 void tst_FieldRowCommands::deletedStringsComeBackByteForByte()
 {
     SoMFString field;
-    fill(field, s_hardStrings);
+    fillWithStrings(field, s_hardStrings);
     TvkMFDeleteRowsCommand command(&field, 0, s_hardStrings.size());
     command.execute();
     QCOMPARE(field.getNum(), 0);
@@ -169,7 +156,7 @@ void tst_FieldRowCommands::deletedStringsComeBackByteForByte()
 void tst_FieldRowCommands::keepsANotificationForEachRowPutBack()
 {
     SoMFString field;
-    fill(field, {"0", "1", "2", "3", "4"});
+    fillWithStrings(field, {"0", "1", "2", "3", "4"});
     TvkMFDeleteRowsCommand command(&field, 1, 3);
     command.execute();
     NotificationCounter counter(field);
@@ -180,7 +167,7 @@ void tst_FieldRowCommands::keepsANotificationForEachRowPutBack()
 void tst_FieldRowCommands::deletingNoRowsDoesNothing()
 {
     SoMFString field;
-    fill(field, {"0", "1"});
+    fillWithStrings(field, {"0", "1"});
     NotificationCounter counter(field);
     TvkMFDeleteRowsCommand command(&field, 1, 0);
     command.execute();
@@ -192,7 +179,7 @@ void tst_FieldRowCommands::deletingNoRowsDoesNothing()
 void tst_FieldRowCommands::keepsSwapItsOwnInverse()
 {
     SoMFString field;
-    fill(field, {"a", "b", "c"});
+    fillWithStrings(field, {"a", "b", "c"});
     TvkMFSwapRowsCommand command(&field, 0, 1);
     const QList<QByteArray> exchanged = {"b", "a", "c"};
     command.execute();
@@ -215,7 +202,7 @@ void tst_FieldRowCommands::aRowSwappedWithItselfStays()
 void tst_FieldRowCommands::swappedStringsStayByteForByte()
 {
     SoMFString field;
-    fill(field, s_hardStrings);
+    fillWithStrings(field, s_hardStrings);
     TvkMFSwapRowsCommand command(&field, 0, 1);
     command.execute();
     QCOMPARE(stringsOf(field).mid(0, 2), QList<QByteArray>({"a \"quote\"", "ends in \\"}));

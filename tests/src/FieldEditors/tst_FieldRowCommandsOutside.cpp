@@ -6,6 +6,7 @@
 #include "tests/support/FieldTexts.h"
 #include "tests/support/NotificationCounter.h"
 #include "tests/support/ReportLog.h"
+#include "tests/support/StringRows.h"
 #include "tests/support/TestMain.h"
 
 #include <Inventor/fields/SoFields.h>
@@ -86,20 +87,6 @@ void addOutsideOfNone()
     addOutsideRows("set a colour in the empty", {}, setColour(0));
 }
 
-void fill(SoMFString& field, const QList<QByteArray>& strings)
-{
-    for (int row = 0; row < strings.size(); ++row)
-        field.set1Value(row, strings.at(row).constData());
-}
-
-QList<QByteArray> stringsOf(const SoMFString& field)
-{
-    QList<QByteArray> strings;
-    for (int row = 0; row < field.getNum(); ++row)
-        strings << field[row].getString();
-    return strings;
-}
-
 bool allAreWarnings(const QStringList& reports)
 {
     return std::all_of(reports.begin(), reports.end(), [](const QString& report) {
@@ -135,7 +122,7 @@ void tst_FieldRowCommandsOutside::rowsOutsideTheFieldAreLeftAlone()
     QFETCH(Maker, make);
     SoMFString field;
     field.setNum(0);
-    fill(field, strings);
+    fillWithStrings(field, strings);
     NotificationCounter counter(field);
     ReportLog log;
     const std::unique_ptr<TvkCommand> command(make(field));

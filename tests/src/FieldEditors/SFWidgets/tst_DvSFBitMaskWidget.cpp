@@ -1,4 +1,5 @@
 #include "tests/support/EditorRig.h"
+#include "tests/support/SceneTypes.h"
 #include "tests/support/TestMain.h"
 
 #include "FieldEditors/SFWidgets/DvSFBitMaskWidget.h"
@@ -81,12 +82,13 @@ private:
         return reached;
     }
 
+    /** Node types whose "parts" are a bit mask, and that with all bits. */
     static void addParts()
     {
-        QTest::addColumn<bool>("cylinder");
+        QTest::addColumn<QByteArray>("type");
         QTest::addColumn<int>("all");
-        QTest::newRow("cone") << false << int(SoCone::ALL);
-        QTest::newRow("cylinder") << true << int(SoCylinder::ALL);
+        QTest::newRow("cone") << QByteArray("Cone") << int(SoCone::ALL);
+        QTest::newRow("cylinder") << QByteArray("Cylinder") << int(SoCylinder::ALL);
     }
 
 private slots:
@@ -229,15 +231,12 @@ private slots:
     void everyValueIsReachedAndLeftByClicks_data() { addParts(); }
     void everyValueIsReachedAndLeftByClicks()
     {
-        QFETCH(bool, cylinder);
         QFETCH(int, all);
+        auto* const node = newOfRowType<SoNode>();
+        node->ref();
         DvSFBitMaskWidget editor;
         EditorRig rig(editor, "sfBitMask");
-        auto* const cone = new SoCone;
-        auto* const tube = new SoCylinder;
-        cone->ref();
-        tube->ref();
-        rig.edit(cylinder ? tube->parts : cone->parts);
+        rig.edit(*node->getField("parts"));
         std::set<int> reached;
         for (int mask = 0; mask <= all; ++mask) {
             const std::set<int> next = reachedFrom(rig, mask);
@@ -245,22 +244,18 @@ private slots:
             reached.insert(next.begin(), next.end());
         }
         QCOMPARE(static_cast<int>(reached.size()), all + 1);
-        cone->unref();
-        tube->unref();
+        node->unref();
     }
 
     void aSingleBitsClickTurnsThatBitAlone_data() { addParts(); }
     void aSingleBitsClickTurnsThatBitAlone()
     {
-        QFETCH(bool, cylinder);
         QFETCH(int, all);
+        auto* const node = newOfRowType<SoNode>();
+        node->ref();
         DvSFBitMaskWidget editor;
         EditorRig rig(editor, "sfBitMask");
-        auto* const cone = new SoCone;
-        auto* const tube = new SoCylinder;
-        cone->ref();
-        tube->ref();
-        rig.edit(cylinder ? tube->parts : cone->parts);
+        rig.edit(*node->getField("parts"));
         for (int mask = 0; mask <= all; ++mask) {
             for (int bit = 0; (1 << bit) < all; ++bit) {
                 show(rig, mask);
@@ -268,8 +263,7 @@ private slots:
                 QCOMPARE(value(rig), mask ^ (1 << bit));
             }
         }
-        cone->unref();
-        tube->unref();
+        node->unref();
     }
 
     void bitsWithoutANameSurvive()

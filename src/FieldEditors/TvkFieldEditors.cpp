@@ -38,7 +38,8 @@ void TvkFieldEditors::activate()
     TvkEditor::activate();
     SoTypedObject* const object = getEditedObject();
     SoField* const field = object ? object->getField() : nullptr;
-    if (!field)
+    // Without its sensor the editor would not hear of the field's death.
+    if (!field || !m_sensor)
         return;
     setField(field);
     refresh();
@@ -79,6 +80,7 @@ void TvkFieldEditors::show()
 
 void TvkFieldEditors::releaseWidgets()
 {
+    setField(nullptr);
     m_sensor.reset();
 }
 

@@ -28,13 +28,17 @@ public:
     TvkFieldEditors();
     ~TvkFieldEditors() override;
 
-    /** Takes the edited object if it is a field: sets it, refreshes, shows. Else does nothing. */
+    /**
+     * Takes the edited object if it is a field: sets it, refreshes, shows. Else does nothing, as
+     * before createWidgets() and after releaseWidgets().
+     */
     void activate() override;
     /** Lets go of the field and hides. */
     void deactivate() override;
     void hide() override;
     void createWidgets() override;
     void show() override;
+    /** Lets go of the field, which nobody watches from here on. */
     void releaseWidgets() override;
 
     /** Edits another field from now on, or none with null. */

@@ -257,6 +257,34 @@ private slots:
         QCOMPARE(rig.host.services.count(), 1);
     }
 
+    void releasingTheWidgetsOfAnActiveEditorLetsGoOfTheField()
+    {
+        DvSFVec3fWidget editor;
+        EditorRig rig(editor, "sfVec3f");
+        editor.releaseWidgets();
+        rig.killNode();
+        editor.refresh();
+        editor.applyChanges();
+        editor.deactivate();
+        QCOMPARE(rig.host.services.count(), 0);
+    }
+
+    void activatingWithoutWidgetsDoesNothing()
+    {
+        DvSFVec3fWidget editor;
+        EditorRig rig(editor, "sfVec3f");
+        editor.deactivate();
+        editor.releaseWidgets();
+        rig.edit();
+        QVERIFY(!editor.isShown());
+        QVERIFY(!editor.getWidget()->isEnabled());
+        DvSFVec3fWidget neverBuilt;
+        SoTypedObject object(rig.field);
+        neverBuilt.setEditedObject(&object);
+        neverBuilt.activate();
+        QVERIFY(!neverBuilt.isShown());
+    }
+
     void theDeathOfTheContainerLetsGoOfTheField()
     {
         DvSFVec3fWidget editor;

@@ -13,7 +13,10 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace {
 
@@ -123,17 +126,38 @@ void DvSFieldWidget::setField(SoField* field)
         m_field = nullptr;
         return;
     }
-    if (m_field && isFieldDying())
-        clearPendingEdit();
-    else
-        setFocusLeaveEvent();
     if (m_field)
-        fieldReleased();
+        releaseField();
     m_field = field;
     ++m_fieldNumber;
     TvkFieldEditors::setField(field);
     if (m_field)
         fieldReplaced();
+}
+
+void DvSFieldWidget::releaseField()
+{
+    if (!isFieldDying())
+        finishTyping();
+    // What the field has refused, or can take no more, is not the next field's.
+    clearPendingEdit();
+    fieldReleased();
+}
+
+void DvSFieldWidget::finishTyping()
+{
+    if (isHalfTyped())
+        revertPendingEdit();
+    else
+        setFocusLeaveEvent();
+}
+
+bool DvSFieldWidget::isHalfTyped() const
+{
+    const QList<QLineEdit*> lines = frame()->findChildren<QLineEdit*>();
+    return std::any_of(lines.begin(), lines.end(), [](const QLineEdit* line) {
+        return line->isModified() && !line->hasAcceptableInput();
+    });
 }
 
 void DvSFieldWidget::refresh()

@@ -30,7 +30,10 @@ public:
 
     /** Builds the widget tree once; later calls, after releaseWidgets(), renew the sensor only. */
     void createWidgets() override;
-    /** Commits what is being typed into the former field, then takes the new one. */
+    /**
+     * Commits what is being typed into the former field, then takes the new one. The beginning of a
+     * number, such as "-", is reverted, as when the line is left.
+     */
     void setField(SoField* field) override;
     /** A type's override writes its own widgets first, then calls this for the ignore button. */
     void refresh() override;
@@ -95,6 +98,10 @@ private:
     void buildLabel(QBoxLayout& layout);
     void buildEditionArea(QBoxLayout& layout);
     void buildButtons(QBoxLayout& layout);
+    void releaseField();
+    void finishTyping();
+    /** Whether a line holds the beginning of a value, which its validator does not accept. */
+    bool isHalfTyped() const;
 
     QLabel* m_label = nullptr;
     SoField* m_field = nullptr; ///< not owned

@@ -257,6 +257,19 @@ private slots:
         QCOMPARE(rig.host.services.count(), 1);
     }
 
+    void aHalfTypedNumberIsRevertedWhenTheEditorIsDeactivatedInFocus()
+    {
+        DvSFVec3fWidget editor;
+        EditorRig rig(editor, "sfVec3f");
+        auto* const line = rig.find<QLineEdit>("SFVec3fLine", 2);
+        EditorRig::type(line, "-");
+        rig.other->setEnabled(false);
+        editor.deactivate();
+        QCOMPARE(rig.text(), QStringLiteral("1 2 3"));
+        QCOMPARE(line->text(), QStringLiteral("3"));
+        QCOMPARE(rig.host.services.count(), 0);
+    }
+
     void releasingTheWidgetsOfAnActiveEditorLetsGoOfTheField()
     {
         DvSFVec3fWidget editor;

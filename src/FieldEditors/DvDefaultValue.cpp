@@ -1,9 +1,8 @@
 #include "FieldEditors/DvDefaultValue.h"
 
+#include "FieldEditors/DvCommands.h"
 #include "FieldEditors/TvkFieldSetDefaultCommand.h"
 #include "scenegraph/SoFieldText.h"
-
-#include <TvkServices.h>
 
 #include <Inventor/fields/SoField.h>
 #include <Inventor/fields/SoFieldContainer.h>
@@ -67,6 +66,5 @@ void DvDefaultValue::restore(SoField& field)
     SbString text;
     defaultField->get(text);
     SoFieldText::set(&field, text);
-    if (TvkServices* const services = TvkServices::getInstance())
-        services->pushCommand(new TvkFieldSetDefaultCommand(&field, defaultField));
+    DvCommands::push<TvkFieldSetDefaultCommand>(&field, defaultField);
 }

@@ -1,6 +1,7 @@
 #include "FieldEditors/DvMFieldTable.h"
 
 #include "FieldEditors/AccessButtonPrivate.h"
+#include "FieldEditors/DvCommands.h"
 #include "FieldEditors/DvMFieldClipboard.h"
 #include "FieldEditors/DvMFieldItem.h"
 #include "FieldEditors/DvMFieldTableItemDelegate.h"
@@ -11,8 +12,6 @@
 #include "FieldEditors/TvkMFDeleteRowsCommand.h"
 #include "FieldEditors/TvkMFSwapRowsCommand.h"
 
-#include <TvkServices.h>
-
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -22,18 +21,6 @@
 
 #include <algorithm>
 #include <cstdio>
-
-namespace {
-
-void push(TvkCommand* command)
-{
-    if (TvkServices* const services = TvkServices::getInstance())
-        services->pushCommand(command);
-    else
-        delete command;
-}
-
-} // namespace
 
 DvMFieldTable::DvMFieldTable(DvMFieldWidget& owner, QWidget* parent, const char* name)
     : QTableWidget(parent), m_owner(owner), m_clipboard(new DvMFieldClipboard(*this, owner))
@@ -283,7 +270,7 @@ void DvMFieldTable::moveRow(int from, int to)
 void DvMFieldTable::swapRows(int row1, int row2)
 {
     if (m_owner.field())
-        push(new TvkMFSwapRowsCommand(m_owner.field(), row1, row2));
+        DvCommands::push<TvkMFSwapRowsCommand>(m_owner.field(), row1, row2);
 }
 
 void DvMFieldTable::addRow()
@@ -298,7 +285,7 @@ void DvMFieldTable::addRow()
     for (int column = 0; column < columnCount(); ++column)
         item(row, column);
     m_owner.accessBox().setRowCount(rowCount());
-    push(new TvkMFAddRowsCommand(m_owner.field(), row, 1));
+    DvCommands::push<TvkMFAddRowsCommand>(m_owner.field(), row, 1);
     // The row above the new one stays current.
     const int previous = row < 1 ? 0 : row;
     setCurrentCell(row < 1 ? row : row - 1, 0);
@@ -322,7 +309,7 @@ void DvMFieldTable::deleteOneRow()
     if (row == -1)
         return;
     m_owner.accessBox().setRowCount(rowCount() - 1);
-    push(new TvkMFDeleteRowsCommand(m_owner.field(), row, 1));
+    DvCommands::push<TvkMFDeleteRowsCommand>(m_owner.field(), row, 1);
     takeRows(row, 1);
 }
 
@@ -334,7 +321,7 @@ void DvMFieldTable::deleteSelectedRange()
     const int top = ranges.first().topRow();
     const int count = ranges.first().bottomRow() - top + 1;
     m_owner.accessBox().setRowCount(rowCount() - count);
-    push(new TvkMFDeleteRowsCommand(m_owner.field(), top, count));
+    DvCommands::push<TvkMFDeleteRowsCommand>(m_owner.field(), top, count);
     takeRows(top, count);
 }
 

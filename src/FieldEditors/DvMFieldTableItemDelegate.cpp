@@ -132,6 +132,8 @@ DvSlider* DvMFieldTableItemDelegate::newSlider(QWidget* parent, const QModelInde
 {
     DvSlider* const slider = DvSlider::create(sliderKindOf(m_valueKind), 1, m_owner.sliderOwner(),
                                               parent, index.row(), index.column());
+    if (!slider)
+        return nullptr;
     if (m_valueKind == FloatKind)
         slider->setCellRange(m_realMinimum, m_realMaximum, m_bounded);
     else

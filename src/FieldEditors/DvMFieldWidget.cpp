@@ -2,6 +2,7 @@
 
 #include "FieldEditors/AccessButtonPrivate.h"
 #include "FieldEditors/DvButtonIcons.h"
+#include "FieldEditors/DvCommands.h"
 #include "FieldEditors/DvDefaultValue.h"
 #include "FieldEditors/DvEditorParts.h"
 #include "FieldEditors/DvLayoutConstants.h"
@@ -9,8 +10,6 @@
 #include "FieldEditors/DvSlider.h"
 #include "FieldEditors/TvkFieldIgnoredCommand.h"
 #include "FieldEditors/TvkMFSetValueCommand.h"
-
-#include <TvkServices.h>
 
 #include <Inventor/engines/SoEngine.h>
 #include <Inventor/engines/SoEngineOutput.h>
@@ -42,14 +41,6 @@ QString masterOf(const SoField& field)
     if (field.getConnectedEngine(output) && output->getContainer())
         return QStringLiteral("engine %1").arg(typeNameOf(*output->getContainer()));
     return QStringLiteral("elsewhere");
-}
-
-void push(TvkCommand* command)
-{
-    if (TvkServices* const services = TvkServices::getInstance())
-        services->pushCommand(command);
-    else
-        delete command;
 }
 
 } // namespace
@@ -275,7 +266,7 @@ void DvMFieldWidget::s_accessRow(int number)
 void DvMFieldWidget::pushSetValue(int row)
 {
     SbString none;
-    push(new TvkMFSetValueCommand(m_field, row, none));
+    DvCommands::push<TvkMFSetValueCommand>(m_field, row, none);
 }
 
 void DvMFieldWidget::ignoreButtonStateChanged()
@@ -287,7 +278,7 @@ void DvMFieldWidget::ignoreButtonStateChanged()
     if (m_field->isIgnored() == static_cast<SbBool>(checked))
         return;
     m_field->setIgnored(checked);
-    push(new TvkFieldIgnoredCommand(m_field, checked));
+    DvCommands::push<TvkFieldIgnoredCommand>(m_field, checked);
 }
 
 void DvMFieldWidget::setDefaultFieldValue()

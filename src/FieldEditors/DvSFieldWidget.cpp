@@ -1,13 +1,12 @@
 #include "FieldEditors/DvSFieldWidget.h"
 
 #include "FieldEditors/DvButtonIcons.h"
+#include "FieldEditors/DvCommands.h"
 #include "FieldEditors/DvDefaultValue.h"
 #include "FieldEditors/DvEditorParts.h"
 #include "FieldEditors/DvLayoutConstants.h"
 #include "FieldEditors/TvkFieldIgnoredCommand.h"
 #include "FieldEditors/TvkSFSetValueCommand.h"
-
-#include <TvkServices.h>
 
 #include <Inventor/fields/SoField.h>
 
@@ -175,8 +174,7 @@ void DvSFieldWidget::pushSetValue()
 
 void DvSFieldWidget::pushSetValue(SbString& previousText)
 {
-    if (TvkServices* const services = TvkServices::getInstance())
-        services->pushCommand(new TvkSFSetValueCommand(m_field, previousText));
+    DvCommands::push<TvkSFSetValueCommand>(m_field, previousText);
 }
 
 void DvSFieldWidget::commitSlider()
@@ -221,8 +219,7 @@ void DvSFieldWidget::ignoreButtonStateChanged()
     if (m_field->isIgnored() == static_cast<SbBool>(checked))
         return;
     m_field->setIgnored(checked);
-    if (TvkServices* const services = TvkServices::getInstance())
-        services->pushCommand(new TvkFieldIgnoredCommand(m_field, checked));
+    DvCommands::push<TvkFieldIgnoredCommand>(m_field, checked);
 }
 
 void DvSFieldWidget::setDefaultFieldValue()

@@ -15,19 +15,21 @@
 #include <QSignalBlocker>
 #include <QSlider>
 
+#include <new>
+
 DvSlider* DvSlider::create(int kind, int cellMode, DvSliderOwner& owner, QWidget* parent,
                            int cellRow, int cellColumn)
 {
     switch (kind) {
     case FloatKind:
     case DoubleKind:
-        return new DvRealSlider(kind, cellMode, owner, parent, cellRow, cellColumn);
+        return new (std::nothrow) DvRealSlider(kind, cellMode, owner, parent, cellRow, cellColumn);
     case Int32Kind:
     case ShortKind:
-        return new DvIntSlider(kind, cellMode, owner, parent, cellRow, cellColumn);
+        return new (std::nothrow) DvIntSlider(kind, cellMode, owner, parent, cellRow, cellColumn);
     case UInt32Kind:
     case UShortKind:
-        return new DvUIntSlider(kind, cellMode, owner, parent, cellRow, cellColumn);
+        return new (std::nothrow) DvUIntSlider(kind, cellMode, owner, parent, cellRow, cellColumn);
     default:
         return nullptr;
     }

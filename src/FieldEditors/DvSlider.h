@@ -26,7 +26,7 @@ public:
     /** The types of field that have a slider. */
     enum Kind { NoKind, FloatKind, DoubleKind, Int32Kind, UInt32Kind, ShortKind, UShortKind };
 
-    /** A slider for a kind, child of `parent`; null for any other kind. */
+    /** A slider for a kind, child of `parent`; null for any other kind, or without memory. */
     static DvSlider* create(int kind, int cellMode, DvSliderOwner& owner, QWidget* parent,
                             int cellRow, int cellColumn);
 

@@ -1,8 +1,7 @@
 #include "FieldEditors/MFWidgets/DvMFColorWidget.h"
 
+#include "FieldEditors/DvCommands.h"
 #include "FieldEditors/TvkMFSetFieldValueCommand.h"
-
-#include <TvkServices.h>
 
 #include <Inventor/fields/SoMFColor.h>
 
@@ -25,8 +24,7 @@ void DvMFColorWidget::write(int row, const Numbers& numbers)
 {
     const SbVec3f rgb = DvVec3fView::value(numbers);
     fieldAs<SoMFColor>()->set1Value(row, SbColor(rgb[0], rgb[1], rgb[2]));
-    if (TvkServices* const services = TvkServices::getInstance())
-        services->pushCommand(new TvkMFSetFieldValueCommand(field(), row));
+    DvCommands::push<TvkMFSetFieldValueCommand>(field(), row);
 }
 
 void DvMFColorWidget::setColor(int row, const QColor& color)

@@ -168,8 +168,11 @@ void DvSFieldWidget::refresh()
 
 void DvSFieldWidget::pushSetValue()
 {
-    SbString none;
-    pushSetValue(none);
+    // A copy: the slider's own text stays for its next commit.
+    SbString previousText;
+    if (m_slider)
+        previousText = m_slider->oldValueText();
+    pushSetValue(previousText);
 }
 
 void DvSFieldWidget::pushSetValue(SbString& previousText)

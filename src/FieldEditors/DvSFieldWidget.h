@@ -86,9 +86,12 @@ protected:
     DvSlider* slider() const { return m_slider; }
     /** The type's label; made on first need, so that a type can give it another text. */
     QLabel* label();
-    /** Hands the set-value command to the host; the field must hold the new value already. */
+    /**
+     * Hands the set-value command to the host; the field must hold the new value already. The text
+     * of before is a copy of the slider's where there is a slider; else the command has none.
+     */
     void pushSetValue();
-    /** The same with the text of before; the command takes it over and empties it. */
+    /** The same with a text of before that the command takes over, and empties. */
     void pushSetValue(SbString& previousText);
 
 private:

@@ -16,6 +16,7 @@ class PlainEditor : public DvSFieldWidget
 public:
     using DvSFieldWidget::DvSFieldWidget;
     using DvSFieldWidget::frame;
+    using DvSFieldWidget::slider;
     void setType(SoType type) { m_handledType = type; }
 };
 
@@ -27,6 +28,21 @@ public:
     {
         label()->setText(QStringLiteral("own text"));
         DvSFieldWidget::createWidgets();
+    }
+};
+
+/** A type that has a slider and passes its text on as the other types do theirs. */
+class CopyingEditor : public DvSFieldWidget
+{
+public:
+    CopyingEditor() : DvSFieldWidget(DvSlider::FloatKind) {}
+    using DvSFieldWidget::applyChanges;
+    using DvSFieldWidget::slider;
+
+    void applyChanges() override
+    {
+        fieldAs<SoSFFloat>()->setValue(9.0F);
+        pushSetValue();
     }
 };
 
@@ -66,6 +82,8 @@ private slots:
         QVERIFY(frame->findChild<QLayout*>("SFieldEditionAreaLayout"));
         auto* const edition = frame->findChild<QFrame*>("m_editionFrame");
         QCOMPARE(edition->layout()->objectName(), QStringLiteral("editLayout"));
+        QCOMPARE(edition->frameShape(), QFrame::Box);
+        QCOMPARE(edition->frameShadow(), QFrame::Plain);
         QCOMPARE(edition->lineWidth(), 0);
         QVERIFY(!frame->isVisible());
     }
@@ -86,6 +104,59 @@ private slots:
         auto* const label = editor.getWidget()->findChild<QLabel*>("m_label");
         QCOMPARE(label->text(), QStringLiteral("<p align=\"center\">SFFloat</p>"));
         QCOMPARE(label->font().pointSize(), 10);
+    }
+
+    void theLabelIsAPlainBoxInTheFirstPlaceBeforeASpacer()
+    {
+        PlainEditor editor;
+        editor.createWidgets();
+        auto* const label = editor.getWidget()->findChild<QLabel*>("m_label");
+        QCOMPARE(label->parentWidget(), editor.getWidget());
+        QCOMPARE(label->frameShape(), QFrame::Box);
+        QCOMPARE(label->frameShadow(), QFrame::Plain);
+        QCOMPARE(label->lineWidth(), 0);
+        QVERIFY(label->hasScaledContents());
+        QCOMPARE(editor.getWidget()->layout()->itemAt(0)->widget(), label);
+        QVERIFY(editor.getWidget()->layout()->itemAt(1)->spacerItem());
+    }
+
+    void theLayoutsHaveTheirConstants()
+    {
+        PlainEditor editor;
+        editor.createWidgets();
+        QWidget* const frame = editor.getWidget();
+        const auto* const area = frame->findChild<QLayout*>("SFieldEditionAreaLayout");
+        QCOMPARE(area->contentsMargins(), QMargins(0, 0, 0, 0));
+        QCOMPARE(area->spacing(), 2);
+        const QLayout* const edit = frame->findChild<QFrame*>("m_editionFrame")->layout();
+        QCOMPARE(edit->contentsMargins(), QMargins(0, 0, 0, 0));
+        QCOMPARE(edit->spacing(), 0);
+        const QLayout* const buttons = frame->layout()->itemAt(3)->layout();
+        QCOMPARE(buttons->objectName(), QStringLiteral("SFieldLayout"));
+        QCOMPARE(buttons->contentsMargins(), QMargins(2, 2, 2, 2));
+        QCOMPARE(buttons->spacing(), 0);
+    }
+
+    void aSliderIsMadeForTheSixKindsOnly()
+    {
+        for (int kind = -1; kind <= 8; ++kind) {
+            PlainEditor editor(kind);
+            QCOMPARE(editor.slider() != nullptr, kind >= 1 && kind <= 6);
+            if (editor.slider())
+                QCOMPARE(editor.slider()->parentWidget(), editor.getWidget());
+        }
+    }
+
+    void keepsTheSlidersTextWhereATypePassesACopyOfIt()
+    {
+        CopyingEditor editor;
+        EditorRig rig(editor, "sfFloat");
+        editor.slider()->oldValueText() = "4";
+        editor.applyChanges();
+        QCOMPARE(rig.text(), QStringLiteral("9"));
+        QCOMPARE(editor.slider()->oldValueText().getString(), "4");
+        rig.host.services.undo(0);
+        QCOMPARE(rig.text(), QStringLiteral("4"));
     }
 
     void theLabelKeepsATextThatWasSetBefore()

@@ -12,17 +12,22 @@ TvkFieldSetDefaultCommand::TvkFieldSetDefaultCommand(SoField* field, SoField* de
     defaultField->get(m_defaultValue);
 }
 
-void TvkFieldSetDefaultCommand::execute()
+void TvkFieldSetDefaultCommand::write(const SbString& text)
 {
     // Writing a text makes Coin take the field for changed; a field at its default is one that the
     // lists show as such and that scene files leave out.
-    if (SoFieldText::set(m_field, m_defaultValue))
+    if (SoFieldText::set(m_field, text) && text == m_defaultValue)
         m_field->setDefault(TRUE);
+}
+
+void TvkFieldSetDefaultCommand::execute()
+{
+    write(m_defaultValue);
 }
 
 void TvkFieldSetDefaultCommand::undo()
 {
-    SoFieldText::set(m_field, m_previousValue);
+    write(m_previousValue);
 }
 
 void TvkFieldSetDefaultCommand::redo()

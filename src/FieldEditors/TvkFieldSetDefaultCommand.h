@@ -20,9 +20,12 @@ public:
     void undo() override;
     void redo() override;
 
+    /** Kept on purpose: recorded, though none of the operations needs it. */
     bool isMultiple() const { return m_isMultiple; }
 
 private:
+    void write(const SbString& text);
+
     SoField* const m_field; ///< not owned
     const bool m_isMultiple;
     SbString m_defaultValue;

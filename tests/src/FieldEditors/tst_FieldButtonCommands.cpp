@@ -20,7 +20,9 @@ private slots:
 
     void keepsTheDefaultWhenUndone();
     void aFieldSetToItsDefaultIsAtItsDefault();
-    void settingTheDefaultTellsSingleFromMultiple();
+    void aFieldIsAtItsDefaultAlsoWhenThatIsUndone();
+    void aTextBeforeThatIsNotTheDefaultComesBack();
+    void keepsWhetherTheFieldIsMultiple();
     void aDefaultListOfHardStringsIsSet();
     void aDefaultOfNoNodeIsSet();
     void aRefusedDefaultLeavesTheFieldChanged();
@@ -90,7 +92,35 @@ void tst_FieldButtonCommands::aFieldSetToItsDefaultIsAtItsDefault()
     cone->unref();
 }
 
-void tst_FieldButtonCommands::settingTheDefaultTellsSingleFromMultiple()
+void tst_FieldButtonCommands::aFieldIsAtItsDefaultAlsoWhenThatIsUndone()
+{
+    auto* const cone = new SoCone;
+    cone->ref();
+    SoSFFloat defaultField;
+    defaultField.setValue(2.0F);
+    cone->height.setValue(2.0F);
+    TvkFieldSetDefaultCommand command(&cone->height, &defaultField);
+    command.execute();
+    command.undo();
+    QCOMPARE(textOf(cone->height), QByteArray("2"));
+    QVERIFY(cone->height.isDefault());
+    cone->unref();
+}
+
+void tst_FieldButtonCommands::aTextBeforeThatIsNotTheDefaultComesBack()
+{
+    SoSFFloat field;
+    SoSFFloat defaultField;
+    defaultField.setValue(2.0F);
+    field.setValue(7.0F);
+    TvkFieldSetDefaultCommand command(&field, &defaultField);
+    command.execute();
+    command.undo();
+    QCOMPARE(textOf(field), QByteArray("7"));
+    QVERIFY(!field.isDefault());
+}
+
+void tst_FieldButtonCommands::keepsWhetherTheFieldIsMultiple()
 {
     SoSFFloat single;
     single.setValue(1.0F);

@@ -164,6 +164,8 @@ void DvMFieldWidget::languageChange()
 {
     if (!frame() || !m_table)
         return;
+    m_defaultButton->setText(QString());
+    m_ignoreButton->setText(QString());
     const QPair<QWidget*, QString> toolTips[] = {
         {m_defaultButton, tr("Set to default")},
         {m_ignoreButton, tr("Ignore this field")},

@@ -16,6 +16,16 @@
 #include <QPushButton>
 #include <QSlider>
 
+/** An editor without a type of its own: the base as it is. */
+class PlainTable : public DvMFieldWidget
+{
+public:
+    PlainTable() : DvMFieldWidget({"MField", {"Value"}, 0}) {}
+    QString cellText(int, int) const override { return {}; }
+    void applyCell(int, int, const QString&) override {}
+    void swapRows(int, int) override {}
+};
+
 class tst_DvMFieldWidget : public QObject
 {
     Q_OBJECT
@@ -44,15 +54,7 @@ private slots:
 
     void theBaseHasItsOwnNameWithoutAnother()
     {
-        class Plain : public DvMFieldWidget
-        {
-        public:
-            Plain() : DvMFieldWidget({"MField", {"Value"}, 0}) {}
-            QString cellText(int, int) const override { return {}; }
-            void applyCell(int, int, const QString&) override {}
-            void swapRows(int, int) override {}
-        };
-        QCOMPARE(Plain().objectName(), QStringLiteral("DvMFieldWidget"));
+        QCOMPARE(PlainTable().objectName(), QStringLiteral("DvMFieldWidget"));
     }
 
     void theButtonsSayWhatTheyDo()
@@ -99,6 +101,23 @@ private slots:
         QCOMPARE(rig.table().horizontalHeaderItem(0)->text(), QStringLiteral("x"));
         QCOMPARE(rig.table().horizontalHeaderItem(1)->text(), QStringLiteral("y"));
         QCOMPARE(rig.find<QLabel>("m_labelNumElement")->text(), QStringLiteral("of 3"));
+    }
+
+    void theLabelKeepsATextThatWasSetBefore()
+    {
+        class Labelled : public PlainTable
+        {
+        public:
+            void createWidgets() override
+            {
+                label()->setText(QStringLiteral("own text"));
+                PlainTable::createWidgets();
+            }
+        };
+        Labelled editor;
+        editor.createWidgets();
+        QCOMPARE(editor.getWidget()->findChild<QLabel*>("m_label")->text(),
+                 QStringLiteral("own text"));
     }
 
     void theOperationsOfATypeComeInTheirOrder()
@@ -278,8 +297,12 @@ private slots:
         DvMFVec2fWidget editor;
         const TableRig rig(editor, "mfVec2f");
         rig.find<QPushButton>("m_addButton")->setToolTip(QStringLiteral("old"));
+        for (const char* button : {"m_defaultButton", "m_ignoreButton"})
+            rig.find<QPushButton>(button)->setText(QStringLiteral("old"));
         QEvent event(QEvent::LanguageChange);
         QApplication::sendEvent(editor.getWidget(), &event);
+        for (const char* button : {"m_defaultButton", "m_ignoreButton"})
+            QCOMPARE(rig.find<QPushButton>(button)->text(), QString());
         QCOMPARE(rig.find<QPushButton>("m_addButton")->toolTip(), QStringLiteral("Add a row"));
     }
 

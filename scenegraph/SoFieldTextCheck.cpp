@@ -113,6 +113,7 @@ SbBool SoFieldTextCheck::accepts(const SoField& field, const SbString& text)
     const QuietReadErrors quiet;
     SoInput input;
     input.setBuffer(text.getString(), static_cast<std::size_t>(text.getLength()));
-    return scratch->read(&input, SbName::empty()) && onlySpaceIsLeft(input) &&
-           suits(field, *scratch);
+    // The mark of an ignored field, with a value before it or alone, is a file's and no value's.
+    return scratch->read(&input, SbName::empty()) && !scratch->isIgnored() &&
+           onlySpaceIsLeft(input) && suits(field, *scratch);
 }

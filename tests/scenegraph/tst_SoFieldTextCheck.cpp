@@ -106,6 +106,9 @@ void tst_SoFieldTextCheck::anythingElseIsRefusedInSilence_data()
     add("SFFloat", "-");
     add("SFBool", "MAYBE");
     add("SFTime", "now");
+    add("SFTime", "~");
+    add("SFTime", "5 ~");
+    add("SFTime", "= realTime");
     add("SFVec3f", "4 5");
     add("SFVec3f", "1 2 3 4");
     add("SFVec3d", "1 2");

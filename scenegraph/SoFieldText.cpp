@@ -1,11 +1,10 @@
 #include "scenegraph/SoFieldText.h"
 
 #include "scenegraph/SoQuotedText.h"
+#include "scenegraph/SoRealText.h"
 
 #include <Inventor/fields/SoMFColorRGBA.h>
-#include <Inventor/fields/SoMFDouble.h>
 #include <Inventor/fields/SoMFEngine.h>
-#include <Inventor/fields/SoMFFloat.h>
 #include <Inventor/fields/SoMFName.h>
 #include <Inventor/fields/SoMFNode.h>
 #include <Inventor/fields/SoMFString.h>
@@ -24,7 +23,6 @@
 
 #include <array>
 #include <charconv>
-#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -166,47 +164,6 @@ bool setEmptyImage(SoField* field, const SbString& text)
     return isEmpty;
 }
 
-/** A real number, to the last bit; Coin's reader knows neither the extremes nor what is none. */
-template <class Real>
-std::optional<Real> realOf(const SbString& text)
-{
-    const char* const end = text.getString() + text.getLength();
-    Real number = 0;
-    const auto [rest, error] = std::from_chars(text.getString(), end, number);
-    return error == std::errc() && rest == end ? std::optional<Real>(number) : std::nullopt;
-}
-
-template <class Field, class Real>
-bool setRealIf(SoField* field, const SbString& text)
-{
-    auto* const typed = as<Field>(field);
-    const std::optional<Real> number = typed ? realOf<Real>(text) : std::nullopt;
-    if (number)
-        typed->setValue(*number);
-    return number.has_value();
-}
-
-template <class Field, class Real>
-bool set1RealIf(SoMField* field, int row, const SbString& text)
-{
-    auto* const typed = as<Field>(field);
-    const std::optional<Real> number = typed ? realOf<Real>(text) : std::nullopt;
-    if (number)
-        typed->set1Value(row, *number);
-    return number.has_value();
-}
-
-bool set1Real(SoMField* field, int row, const SbString& text)
-{
-    return set1RealIf<SoMFFloat, float>(field, row, text) ||
-           set1RealIf<SoMFDouble, double>(field, row, text);
-}
-
-bool setReal(SoField* field, const SbString& text)
-{
-    return setRealIf<SoSFFloat, float>(field, text) || setRealIf<SoSFDouble, double>(field, text);
-}
-
 /** The value's own length, where the text is a quoted one. */
 bool isTooLongForName(const SbString& text)
 {
@@ -223,7 +180,7 @@ bool setExactly(SoField* field, const SbString& text)
         return true;
     if (isNull(text) && setNull(field))
         return true;
-    return setReal(field, text) || setStrings(field, text) || setColors(field, text) ||
+    return SoRealText::set(field, text) || setStrings(field, text) || setColors(field, text) ||
            setEmptyImage(field, text);
 }
 
@@ -233,7 +190,7 @@ bool set1Exactly(SoMField* field, int row, const SbString& text)
         return set1String(field, row, text);
     if (isNull(text))
         return set1Null(field, row);
-    return set1Real(field, row, text) || set1Color(field, row, text);
+    return SoRealText::set1(field, row, text) || set1Color(field, row, text);
 }
 
 /** Longer than the shortest text of any number. */

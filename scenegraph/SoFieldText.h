@@ -11,8 +11,8 @@ class SoMField;
  * Puts a text that SoField::get() or SoMField::get1() gave back into the field, without the losses
  * of Coin's own reader: a string with a quotation mark before a line break, or a backslash at its
  * end, comes back otherwise or not at all; a null node or engine and an image without pixels are
- * refused; colours in a multiple-value field keep their old alpha; of a single real number the
- * extremes become 0, and what is none is refused.
+ * refused; colours in a multiple-value field keep their old alpha; of real numbers, alone or in
+ * vectors, the extremes become 0, and what is none is refused.
  *
  * Any other text is the field's own to read. A text that it refuses may leave half a value without
  * telling anybody, so the field is touched then: whoever shows it shows what is really there.

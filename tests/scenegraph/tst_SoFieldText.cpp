@@ -11,6 +11,7 @@
 #include <Inventor/nodes/SoCone.h>
 
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -43,6 +44,12 @@ private slots:
     void aNumberComesBackToTheLastBit_data();
     void aNumberComesBackToTheLastBit();
     void wholeNumbersComeBack();
+    void theExtremesOfAVectorComeBack_data();
+    void theExtremesOfAVectorComeBack();
+    void theExtremesOfARowComeBack_data() { theExtremesOfAVectorComeBack_data(); }
+    void theExtremesOfARowComeBack();
+    void aTextOfAnotherLengthIsNoVector_data();
+    void aTextOfAnotherLengthIsNoVector();
 };
 
 void tst_SoFieldText::aNullNodeComesBack()
@@ -250,6 +257,90 @@ void tst_SoFieldText::wholeNumbersComeBack()
     SoFieldText::get(&natural, text);
     QVERIFY(SoFieldText::set(&natural, text));
     QCOMPARE(natural.getValue(), std::numeric_limits<uint32_t>::max());
+}
+
+void tst_SoFieldText::theExtremesOfAVectorComeBack_data()
+{
+    QTest::addColumn<double>("extreme");
+    QTest::addColumn<float>("single");
+    using Single = std::numeric_limits<float>;
+    using Double = std::numeric_limits<double>;
+    QTest::newRow("largest") << Double::max() << Single::max();
+    QTest::newRow("least") << -Double::max() << -Single::max();
+    QTest::newRow("smallest") << Double::denorm_min() << Single::denorm_min();
+    QTest::newRow("infinite") << Double::infinity() << Single::infinity();
+    QTest::newRow("minus infinite") << -Double::infinity() << -Single::infinity();
+    QTest::newRow("no number") << Double::quiet_NaN() << Single::quiet_NaN();
+}
+
+void tst_SoFieldText::theExtremesOfAVectorComeBack()
+{
+    QFETCH(double, extreme);
+    QFETCH(float, single);
+    ReportLog log;
+    SoSFVec2f pair;
+    pair.setValue(1.0F, single);
+    SoSFVec3f triple;
+    triple.setValue(single, 2.0F, 3.0F);
+    SoSFVec4f four;
+    four.setValue(1.0F, 2.0F, 3.0F, single);
+    SoSFVec3d twice;
+    twice.setValue(1.0, extreme, 3.0);
+    SoSFColor color;
+    color.setValue(0.5F, single, 1.0F);
+    SoSFMatrix matrix;
+    SbMatrix values = SbMatrix::identity();
+    values[2][1] = single;
+    matrix.setValue(values);
+    SoField* const fields[] = {&pair, &triple, &four, &twice, &color, &matrix};
+    for (SoField* field : fields) {
+        const QByteArray bits = bitsOf(*field);
+        const SbString text = textOf(*field);
+        const std::unique_ptr<SoField> fresh(
+            static_cast<SoField*>(field->getTypeId().createInstance()));
+        QVERIFY2(SoFieldText::set(fresh.get(), text), text.getString());
+        QCOMPARE(bitsOf(*fresh), bits);
+    }
+    QCOMPARE(log.taken(), QStringList());
+}
+
+void tst_SoFieldText::theExtremesOfARowComeBack()
+{
+    QFETCH(double, extreme);
+    ReportLog log;
+    SoMFVec3d vectors;
+    vectors.set1Value(0, 1.0, 2.0, 3.0);
+    vectors.set1Value(1, 4.0, extreme, 6.0);
+    SoMFDouble numbers;
+    numbers.set1Value(0, 1.0);
+    numbers.set1Value(1, extreme);
+    for (SoMField* field : {static_cast<SoMField*>(&vectors), static_cast<SoMField*>(&numbers)}) {
+        const QByteArray bits = bitsOf(*field);
+        SbString text;
+        field->get1(1, text);
+        QVERIFY(SoFieldText::set1(field, 1, "7 8 9") || SoFieldText::set1(field, 1, "7"));
+        QVERIFY2(SoFieldText::set1(field, 1, text), text.getString());
+        QCOMPARE(bitsOf(*field), bits);
+    }
+    QCOMPARE(log.taken(), QStringList());
+}
+
+void tst_SoFieldText::aTextOfAnotherLengthIsNoVector_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    for (const char* text : {"", " ", "4", "4 5", "nan nan", "4,5,6", "4 5 6x", "four 5 6"})
+        QTest::newRow(text) << QByteArray(text);
+}
+
+void tst_SoFieldText::aTextOfAnotherLengthIsNoVector()
+{
+    QFETCH(QByteArray, text);
+    SoMFVec3f field;
+    field.set1Value(0, 1.0F, 2.0F, 3.0F);
+    const bool takenByCoin = field.set1(0, text.constData());
+    field.set1Value(0, 1.0F, 2.0F, 3.0F);
+    QCOMPARE(bool(SoFieldText::set1(&field, 0, text.constData())), takenByCoin);
+    QCOMPARE(field.getNum(), 1);
 }
 
 TAVRIK_TEST_MAIN(tst_SoFieldText)

@@ -9,9 +9,7 @@
 #include <Inventor/fields/SoMFNode.h>
 #include <Inventor/fields/SoMFString.h>
 #include <Inventor/fields/SoSFColorRGBA.h>
-#include <Inventor/fields/SoSFDouble.h>
 #include <Inventor/fields/SoSFEngine.h>
-#include <Inventor/fields/SoSFFloat.h>
 #include <Inventor/fields/SoSFImage.h>
 #include <Inventor/fields/SoSFInt32.h>
 #include <Inventor/fields/SoSFName.h>
@@ -211,9 +209,9 @@ bool getNumberIf(SoField* field, SbString& text)
 
 bool getNumber(SoField* field, SbString& text)
 {
-    return getNumberIf<SoSFFloat>(field, text) || getNumberIf<SoSFDouble>(field, text) ||
-           getNumberIf<SoSFInt32>(field, text) || getNumberIf<SoSFUInt32>(field, text) ||
-           getNumberIf<SoSFShort>(field, text) || getNumberIf<SoSFUShort>(field, text);
+    return SoRealText::get(field, text) || getNumberIf<SoSFInt32>(field, text) ||
+           getNumberIf<SoSFUInt32>(field, text) || getNumberIf<SoSFShort>(field, text) ||
+           getNumberIf<SoSFUShort>(field, text);
 }
 
 bool touchedUnless(SbBool taken, SoField* field)
@@ -229,6 +227,12 @@ void SoFieldText::get(SoField* field, SbString& text)
 {
     if (!getNumber(field, text))
         field->get(text);
+}
+
+void SoFieldText::get1(SoMField* field, int row, SbString& text)
+{
+    if (!SoRealText::get1(field, row, text))
+        field->get1(row, text);
 }
 
 SbBool SoFieldText::set(SoField* field, const SbString& text)

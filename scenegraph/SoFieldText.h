@@ -21,10 +21,13 @@ class TAVRIKSCENEGRAPH_EXPORT SoFieldText
 {
 public:
     /**
-     * The field's text, as SoField::get() gives it; of a single number the shortest one that set()
-     * reads back to the last bit, which takes a fraction of the time.
+     * The field's text, as SoField::get() gives it; of a number, and of real numbers in a vector, a
+     * colour or a matrix, the shortest one that set() reads back to the last bit, which takes a
+     * fraction of the time.
      */
     static void get(SoField* field, SbString& text);
+    /** The same for one value; the row must exist (SoMFieldRows::get1() checks it). */
+    static void get1(SoMField* field, int row, SbString& text);
     /** In bytes. Coin copies a longer name past the end of the memory that it keeps names in. */
     static constexpr int longestName = 65503;
 

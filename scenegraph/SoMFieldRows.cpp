@@ -127,7 +127,7 @@ SbBool SoMFieldRows::get1(SoMField* field, int row, SbString& text)
 {
     if (!hasRows("get1", field, row, 1))
         return FALSE;
-    field->get1(row, text);
+    SoFieldText::get1(field, row, text);
     return TRUE;
 }
 
@@ -164,7 +164,7 @@ SbBool SoMFieldRows::readTexts(SoMField* field, int start, int count, SbString* 
     if (!hasRows("readTexts", field, start, count))
         return FALSE;
     for (int i = 0; i < count; ++i)
-        field->get1(start + i, texts[i]);
+        SoFieldText::get1(field, start + i, texts[i]);
     return TRUE;
 }
 

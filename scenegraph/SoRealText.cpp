@@ -28,6 +28,7 @@
 #include <limits>
 #include <optional>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 
 namespace {
@@ -80,6 +81,36 @@ bool readNumbers(const SbString& text, Numbers& numbers)
     return takeWord(rest).empty();
 }
 
+template <class Numbers>
+SbString textOf(const Numbers& numbers)
+{
+    // Longer than the shortest text of any number with the blank before it.
+    constexpr std::size_t longest = 32;
+    std::array<char, std::tuple_size_v<Numbers>* longest> characters = {};
+    // The last one stays zero.
+    char* const end = characters.data() + characters.size() - 1;
+    char* at = characters.data();
+    for (const auto number : numbers) {
+        if (at != characters.data())
+            *at++ = ' ';
+        at = std::to_chars(at, end, number).ptr;
+    }
+    return {characters.data()};
+}
+
+template <class Numbers, class Value>
+Numbers numbersOf(const Value& value)
+{
+    Numbers numbers = {};
+    if constexpr (std::is_arithmetic_v<Value>)
+        numbers.front() = value;
+    else if constexpr (std::is_same_v<Value, SbMatrix>)
+        std::copy_n(&value.getValue()[0][0], numbers.size(), numbers.begin());
+    else
+        std::copy_n(value.getValue(), numbers.size(), numbers.begin());
+    return numbers;
+}
+
 template <class Value, class Numbers>
 Value valueOf(const Numbers& numbers)
 {
@@ -98,9 +129,27 @@ Value valueOf(const Numbers& numbers)
 template <class SingleField, class MultipleField, class Value, class Real, std::size_t count>
 struct Kind
 {
+    using Numbers = std::array<Real, count>;
+
+    static bool get(SoField* field, SbString& text)
+    {
+        const bool is = field->isOfType(SingleField::getClassTypeId());
+        if (is)
+            text = textOf(numbersOf<Numbers, Value>(static_cast<SingleField*>(field)->getValue()));
+        return is;
+    }
+
+    static bool get1(SoMField* field, int row, SbString& text)
+    {
+        const bool is = field->isOfType(MultipleField::getClassTypeId());
+        if (is)
+            text = textOf(numbersOf<Numbers, Value>((*static_cast<MultipleField*>(field))[row]));
+        return is;
+    }
+
     static bool set(SoField* field, const SbString& text)
     {
-        std::array<Real, count> numbers = {};
+        Numbers numbers = {};
         if (!field->isOfType(SingleField::getClassTypeId()) || !readNumbers(text, numbers))
             return false;
         static_cast<SingleField*>(field)->setValue(valueOf<Value>(numbers));
@@ -109,7 +158,7 @@ struct Kind
 
     static bool set1(SoMField* field, int row, const SbString& text)
     {
-        std::array<Real, count> numbers = {};
+        Numbers numbers = {};
         if (!field->isOfType(MultipleField::getClassTypeId()) || !readNumbers(text, numbers))
             return false;
         static_cast<MultipleField*>(field)->set1Value(row, valueOf<Value>(numbers));
@@ -120,6 +169,11 @@ struct Kind
 template <class... Kinds>
 struct AnyOf
 {
+    static bool get(SoField* field, SbString& text) { return (Kinds::get(field, text) || ...); }
+    static bool get1(SoMField* field, int row, SbString& text)
+    {
+        return (Kinds::get1(field, row, text) || ...);
+    }
     static bool set(SoField* field, const SbString& text)
     {
         return (Kinds::set(field, text) || ...);
@@ -139,6 +193,16 @@ using AnyKind = AnyOf<
     Kind<SoSFMatrix, SoMFMatrix, SbMatrix, float, 16>>;
 
 } // namespace
+
+bool SoRealText::get(SoField* field, SbString& text)
+{
+    return AnyKind::get(field, text);
+}
+
+bool SoRealText::get1(SoMField* field, int row, SbString& text)
+{
+    return AnyKind::get1(field, row, text);
+}
 
 bool SoRealText::set(SoField* field, const SbString& text)
 {

@@ -64,7 +64,7 @@ void DvDefaultValue::restore(SoField& field)
     if (!defaultField)
         return;
     SbString text;
-    defaultField->get(text);
+    SoFieldText::get(defaultField, text);
     SoFieldText::set(&field, text);
     DvCommands::push<TvkFieldSetDefaultCommand>(&field, defaultField);
 }

@@ -8,8 +8,8 @@ TvkFieldSetDefaultCommand::TvkFieldSetDefaultCommand(SoField* field, SoField* de
     : TvkCommand(field), m_field(field),
       m_isMultiple(field->isOfType(SoMField::getClassTypeId()) != FALSE)
 {
-    m_field->get(m_previousValue);
-    defaultField->get(m_defaultValue);
+    SoFieldText::get(m_field, m_previousValue);
+    SoFieldText::get(defaultField, m_defaultValue);
 }
 
 void TvkFieldSetDefaultCommand::write(const SbString& text)

@@ -48,6 +48,8 @@ private slots:
     void theExtremesOfAVectorComeBack();
     void theExtremesOfARowComeBack_data() { theExtremesOfAVectorComeBack_data(); }
     void theExtremesOfARowComeBack();
+    void componentsComeBackToTheLastBit();
+    void rowsOfNumbersComeBackToTheLastBit();
     void aTextOfAnotherLengthIsNoVector_data();
     void aTextOfAnotherLengthIsNoVector();
 };
@@ -323,6 +325,54 @@ void tst_SoFieldText::theExtremesOfARowComeBack()
         QCOMPARE(bitsOf(*field), bits);
     }
     QCOMPARE(log.taken(), QStringList());
+}
+
+void tst_SoFieldText::componentsComeBackToTheLastBit()
+{
+    // Coin's eight digits are the text of a neighbour of each.
+    SoSFVec3f vector;
+    vector.setValue(123.81744384765625F, -1001.29144287109375F, 105.06151580810547F);
+    SoSFMatrix matrix;
+    SbMatrix values = SbMatrix::identity();
+    values[3][0] = 121.68333435058594F;
+    matrix.setValue(values);
+    SoSFVec3d twice;
+    twice.setValue(0.1 + 0.2, 1.0 / 3.0, 123456789.123456789);
+    for (SoField* field : {static_cast<SoField*>(&vector), static_cast<SoField*>(&matrix),
+                           static_cast<SoField*>(&twice)}) {
+        const QByteArray bits = bitsOf(*field);
+        SbString text;
+        SoFieldText::get(field, text);
+        const std::unique_ptr<SoField> fresh(
+            static_cast<SoField*>(field->getTypeId().createInstance()));
+        QVERIFY2(SoFieldText::set(fresh.get(), text), text.getString());
+        QCOMPARE(bitsOf(*fresh), bits);
+        // Coin's own reader takes the text as well.
+        QVERIFY2(fresh->set(text.getString()), text.getString());
+    }
+}
+
+void tst_SoFieldText::rowsOfNumbersComeBackToTheLastBit()
+{
+    SoMFFloat floats;
+    SoMFColor colors;
+    SoMFVec2d pairs;
+    for (int row = 0; row < 100; ++row) {
+        const double number = 100.0 + row / 7.0;
+        floats.set1Value(row, static_cast<float>(number));
+        colors.set1Value(row, SbColor(static_cast<float>(number), 0.1F, 0.2F));
+        pairs.set1Value(row, SbVec2d(number, 1.0 / number));
+    }
+    for (SoMField* field : {static_cast<SoMField*>(&floats), static_cast<SoMField*>(&colors),
+                            static_cast<SoMField*>(&pairs)}) {
+        const QByteArray bits = bitsOf(*field);
+        for (int row = 0; row < 100; ++row) {
+            SbString text;
+            SoFieldText::get1(field, row, text);
+            QVERIFY2(SoFieldText::set1(field, row, text), text.getString());
+        }
+        QCOMPARE(bitsOf(*field), bits);
+    }
 }
 
 void tst_SoFieldText::aTextOfAnotherLengthIsNoVector_data()

@@ -47,6 +47,25 @@ bool addIfAny(SoField& field, QByteArray& bytes)
     return (addIf<Fields>(field, bytes) || ...);
 }
 
+/** The same for the rows of a multiple-value field. */
+template <class Field>
+bool addRowsIf(SoField& field, QByteArray& bytes)
+{
+    const bool is = field.isOfType(Field::getClassTypeId());
+    if (is) {
+        auto& rows = static_cast<Field&>(field);
+        for (int row = 0; row < rows.getNum(); ++row)
+            bytes += bytesOf(rows[row]);
+    }
+    return is;
+}
+
+template <class... Fields>
+bool addRowsIfAny(SoField& field, QByteArray& bytes)
+{
+    return (addRowsIf<Fields>(field, bytes) || ...);
+}
+
 } // namespace
 
 QByteArray bitsOf(SoField& field)
@@ -58,6 +77,10 @@ QByteArray bitsOf(SoField& field)
                  SoSFRotation, SoSFShort, SoSFString, SoSFTime, SoSFUInt32, SoSFUShort, SoSFVec2d,
                  SoSFVec2f, SoSFVec2i32, SoSFVec2s, SoSFVec3d, SoSFVec3f, SoSFVec3i32, SoSFVec3s,
                  SoSFVec4d, SoSFVec4f, SoSFVec4i32, SoSFVec4s>(field, bytes))
+        return bytes;
+    if (addRowsIfAny<SoMFColor, SoMFDouble, SoMFFloat, SoMFMatrix, SoMFPlane, SoMFRotation,
+                     SoMFVec2d, SoMFVec2f, SoMFVec3d, SoMFVec3f, SoMFVec4d, SoMFVec4f>(field,
+                                                                                       bytes))
         return bytes;
     if (field.isOfType(SoSFImage::getClassTypeId()))
         return bytesOfImage(static_cast<SoSFImage&>(field));

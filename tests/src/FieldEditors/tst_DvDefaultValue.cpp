@@ -25,6 +25,7 @@ public:
     CountedNode();
 
     SoSFFloat height;
+    SoSFFloat angle;
     static int s_living;
 
 protected:
@@ -38,6 +39,7 @@ CountedNode::CountedNode()
 {
     SO_NODE_CONSTRUCTOR(CountedNode);
     SO_NODE_ADD_FIELD(height, (2.0F));
+    SO_NODE_ADD_FIELD(angle, (123.81744384765625F));
     ++s_living;
 }
 
@@ -119,6 +121,7 @@ private slots:
     void aGlobalFieldIsLeftAlone();
     void aFieldOfAnAbstractTypeIsLeftAlone();
     void theFreshInstanceIsReleased();
+    void aDefaultOfManyDigitsIsSetToTheLastBit();
     void withoutAHostTheFieldIsStillSet();
 };
 
@@ -274,6 +277,17 @@ void tst_DvDefaultValue::theFreshInstanceIsReleased()
     DvDefaultValue::restore(node->height);
     QCOMPARE(textOf(node->height), QByteArray("2"));
     QCOMPARE(CountedNode::s_living, 1);
+}
+
+void tst_DvDefaultValue::aDefaultOfManyDigitsIsSetToTheLastBit()
+{
+    RecordingServices services;
+    const Kept<CountedNode> node(new CountedNode);
+    node->angle.setValue(7.0F);
+    DvDefaultValue::restore(node->angle);
+    QVERIFY(node->angle.getValue() == 123.81744384765625F);
+    services.undo(0);
+    QVERIFY(node->angle.getValue() == 123.81744384765625F);
 }
 
 void tst_DvDefaultValue::withoutAHostTheFieldIsStillSet()

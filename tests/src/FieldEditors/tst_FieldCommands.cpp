@@ -1,12 +1,15 @@
 #include "FieldEditors/TvkMFSetFieldValueCommand.h"
 #include "FieldEditors/TvkMFSetValueCommand.h"
 #include "FieldEditors/TvkSFSetValueCommand.h"
+#include "tests/support/FieldBits.h"
 #include "tests/support/FieldTexts.h"
 #include "tests/support/NotificationCounter.h"
 #include "tests/support/TestMain.h"
 
 #include <Inventor/fields/SoFields.h>
 #include <Inventor/nodes/SoCube.h>
+
+#include <limits>
 
 namespace {
 
@@ -46,6 +49,7 @@ private slots:
     void keepsTheNewTextForTheExecution();
     void keepsReadingAColourTwiceAfterTheWrite();
     void keepsTheExecutionOfAColourEmpty();
+    void undoKeepsEveryBitOfAVector();
     void anyStringComesBack_data() { addHardStrings(); }
     void anyStringComesBack();
     void anyStringOfARowComesBack_data() { addHardStrings(); }
@@ -148,6 +152,22 @@ void tst_FieldCommands::keepsTheExecutionOfAColourEmpty()
     QCOMPARE(textOf(field), QByteArray("0 1 0"));
     command.redo();
     QCOMPARE(textOf(field), QByteArray("1 0 0"));
+}
+
+void tst_FieldCommands::undoKeepsEveryBitOfAVector()
+{
+    SoSFVec3f field;
+    field.setValue(123.81744384765625F, -std::numeric_limits<float>::infinity(), 3.0F);
+    const QByteArray written = bitsOf(field);
+    SbString noText;
+    TvkSFSetValueCommand command(&field, noText);
+    command.execute();
+    field.setValue(1.0F, 2.0F, 3.0F);
+    command.undo();
+    QCOMPARE(bitsOf(field), written);
+    field.setValue(1.0F, 2.0F, 3.0F);
+    command.redo();
+    QCOMPARE(bitsOf(field), written);
 }
 
 void tst_FieldCommands::anyStringComesBack()

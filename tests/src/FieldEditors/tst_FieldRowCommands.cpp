@@ -1,6 +1,7 @@
 #include "FieldEditors/TvkMFAddRowsCommand.h"
 #include "FieldEditors/TvkMFDeleteRowsCommand.h"
 #include "FieldEditors/TvkMFSwapRowsCommand.h"
+#include "tests/support/FieldBits.h"
 #include "tests/support/FieldTexts.h"
 #include "tests/support/NotificationCounter.h"
 #include "tests/support/StringRows.h"
@@ -9,10 +10,21 @@
 #include <Inventor/fields/SoFields.h>
 #include <Inventor/nodes/SoCube.h>
 
+#include <cmath>
+#include <limits>
+
 namespace {
 
 const QList<QByteArray> s_hardStrings = {"ends in \\", "a \"quote\"", "two\nlines",
                                          "\xc3\xa4 \xe2\x82\xac", ""};
+
+/** Numbers that eight digits do not tell from their neighbours, and one that is none. */
+void fillWithHardNumbers(SoMFVec3f& field)
+{
+    field.set1Value(0, 123.81744384765625F, 1001.29144287109375F, 1.0F);
+    field.set1Value(1, 1.0F, std::numeric_limits<float>::quiet_NaN(), 105.06151580810547F);
+    field.set1Value(2, 7.0F, 8.0F, 9.0F);
+}
 
 } // namespace
 
@@ -38,6 +50,8 @@ private slots:
     void keepsSwapItsOwnInverse();
     void aRowSwappedWithItselfStays();
     void swappedStringsStayByteForByte();
+    void swappedNumbersStayToTheLastBit();
+    void deletedNumbersComeBackToTheLastBit();
     void aNodeSwappedWithNoneLeavesNone();
 };
 
@@ -208,6 +222,30 @@ void tst_FieldRowCommands::swappedStringsStayByteForByte()
     QCOMPARE(stringsOf(field).mid(0, 2), QList<QByteArray>({"a \"quote\"", "ends in \\"}));
     command.undo();
     QCOMPARE(stringsOf(field), s_hardStrings);
+}
+
+void tst_FieldRowCommands::swappedNumbersStayToTheLastBit()
+{
+    SoMFVec3f field;
+    fillWithHardNumbers(field);
+    const QByteArray before = bitsOf(field);
+    TvkMFSwapRowsCommand command(&field, 0, 1);
+    command.execute();
+    QVERIFY(bitsOf(field) != before);
+    QVERIFY(std::isnan(field[0][1]));
+    command.undo();
+    QCOMPARE(bitsOf(field), before);
+}
+
+void tst_FieldRowCommands::deletedNumbersComeBackToTheLastBit()
+{
+    SoMFVec3f field;
+    fillWithHardNumbers(field);
+    const QByteArray before = bitsOf(field);
+    TvkMFDeleteRowsCommand command(&field, 0, 2);
+    command.execute();
+    command.undo();
+    QCOMPARE(bitsOf(field), before);
 }
 
 void tst_FieldRowCommands::aNodeSwappedWithNoneLeavesNone()

@@ -4,11 +4,13 @@
 #include <QStringList>
 
 class SoError;
+class SoInput;
 class SoSeparator;
 
 /**
- * Reads one scene file. What Coin's reader complains about meanwhile is kept, and passed on to
- * whoever listened before.
+ * Reads one scene file, unless it is nested so deeply that reading or showing it would exhaust the
+ * stack. What Coin's reader complains about meanwhile is kept, and passed on to whoever listened
+ * before.
  */
 class HostSceneReader
 {
@@ -23,6 +25,7 @@ private:
     static void complain(const SoError* error, void* reader);
 
     SoSeparator* parse(const QString& path);
+    void noteRest(SoInput& input);
 
     QString m_error;
     QStringList m_complaints;

@@ -1,4 +1,5 @@
 #include "lib/HostScene.h"
+#include "lib/HostSceneDepth.h"
 
 #include "tests/host/SceneFileTest.h"
 #include "tests/support/TestMain.h"
@@ -22,6 +23,23 @@ QStringList searchPath()
     return texts;
 }
 
+/** Separators one inside the other, a cube in the last. */
+QByteArray nested(int levels)
+{
+    return "#Inventor V2.1 ascii\n" + QByteArray("Separator { ").repeated(levels - 1) + "Cube { }" +
+           QByteArray(" }").repeated(levels - 1) + "\n";
+}
+
+/** As many levels, which the text of the file does not show. */
+QByteArray chained(int levels)
+{
+    QByteArray text = "#Inventor V2.1 ascii\nSeparator {\n  Switch { DEF g0 Group { }\n";
+    for (int i = 1; i < levels; ++i)
+        text +=
+            "DEF g" + QByteArray::number(i) + " Group { USE g" + QByteArray::number(i - 1) + " }\n";
+    return text + "} }\n";
+}
+
 } // namespace
 
 /** Opening files: what is read, what is said of it, and what stays when it fails. */
@@ -36,6 +54,9 @@ private slots:
     void opensVrmlFiles();
     void theOpenSceneStaysWhenAnotherCannotBeRead_data();
     void theOpenSceneStaysWhenAnotherCannotBeRead();
+    void aSceneOfAsManyLevelsAsCanBeShownIsOpenedAndSaved();
+    void aSceneWithoutNodesIsNoError();
+    void aRestThatIsNotReadIsAComplaint();
     void complaintsOfTheReaderAreKeptAndPassedOn();
     void referencesAreFoundBesideTheFile();
     void theSearchPathIsLeftAsItWas();
@@ -97,6 +118,20 @@ void tst_HostScene::theOpenSceneStaysWhenAnotherCannotBeRead_data()
                               << "cannot be read as a scene";
     QTest::newRow("broken") << "broken.iv"
                             << "Occurred at line";
+    QTest::newRow("truncated") << "truncated.iv"
+                               << "cannot be read as a scene";
+    QTest::newRow("garbage below a header") << "garbage.iv"
+                                            << "cannot be read as a scene";
+    QTest::newRow("deep") << "deep.iv"
+                          << "nested too deeply";
+    QTest::newRow("deep VRML") << "deep.wrl"
+                               << "nested too deeply";
+    QTest::newRow("deep by references") << "chain.iv"
+                                        << "nested too deeply";
+    QTest::newRow("without end") << "cycle.iv"
+                                 << "contains itself";
+    QTest::newRow("including itself") << "itself.iv"
+                                      << "nested too deeply";
 }
 
 void tst_HostScene::theOpenSceneStaysWhenAnotherCannotBeRead()
@@ -106,6 +141,13 @@ void tst_HostScene::theOpenSceneStaysWhenAnotherCannotBeRead()
     file("empty.iv", "");
     file("text.iv", "Dear reader, this is no scene.\n");
     file("broken.iv", "#Inventor V2.1 ascii\nSeparator { Cube { width \"wide\" } \n");
+    file("truncated.iv", QByteArray(sceneText).left(150));
+    file("garbage.iv", "#Inventor V2.1 ascii\n\x01\xfe}{]\"[\x7f\x80 \n");
+    file("deep.iv", nested(100000));
+    file("deep.wrl", "#VRML V2.0 utf8\n" + QByteArray("Group { children ").repeated(100000));
+    file("chain.iv", chained(100000));
+    file("cycle.iv", "#Inventor V2.1 ascii\nDEF ring Separator { Cube { } USE ring }\n");
+    file("itself.iv", "#Inventor V2.1 ascii\nSeparator { File { name \"itself.iv\" } }\n");
     HostScene scene;
     QVERIFY(scene.open(file("scene.iv", sceneText), nullptr));
     const SoSeparator* root = scene.root();
@@ -116,6 +158,35 @@ void tst_HostScene::theOpenSceneStaysWhenAnotherCannotBeRead()
     QCOMPARE(scene.root(), root);
     QVERIFY(scene.filePath().endsWith("scene.iv"));
     QCOMPARE(changed.count(), 0);
+}
+
+void tst_HostScene::aSceneOfAsManyLevelsAsCanBeShownIsOpenedAndSaved()
+{
+    HostScene scene;
+    QString error;
+    QVERIFY2(scene.open(file("limit.iv", nested(HostSceneDepth::Limit)), &error),
+             qUtf8Printable(error));
+    QVERIFY2(scene.save(m_folder->filePath("copy.iv"), &error), qUtf8Printable(error));
+    QVERIFY2(scene.open(m_folder->filePath("copy.iv"), &error), qUtf8Printable(error));
+    QVERIFY(!scene.open(file("more.iv", nested(HostSceneDepth::Limit + 1)), &error));
+    QVERIFY2(error.contains("nested too deeply"), qUtf8Printable(error));
+}
+
+void tst_HostScene::aSceneWithoutNodesIsNoError()
+{
+    HostScene scene;
+    QVERIFY(scene.open(file("nothing.iv", "#Inventor V2.1 ascii\n\n# nothing yet\n"), nullptr));
+    QVERIFY(scene.open(file("one.iv", "#Inventor V2.1 ascii\nSeparator { }\n"), nullptr));
+    QCOMPARE(scene.readErrors(), QString());
+}
+
+void tst_HostScene::aRestThatIsNotReadIsAComplaint()
+{
+    HostScene scene;
+    QVERIFY(scene.open(
+        file("rest.iv", "#Inventor V2.1 ascii\nSeparator { Cube { } }\n} Sphere { }\n"), nullptr));
+    QVERIFY2(scene.readErrors().contains("rest of the file"), qUtf8Printable(scene.readErrors()));
+    QVERIFY2(scene.readErrors().contains("line 3"), qUtf8Printable(scene.readErrors()));
 }
 
 void tst_HostScene::complaintsOfTheReaderAreKeptAndPassedOn()

@@ -1,11 +1,16 @@
 #include "lib/HostBrowser.h"
 
 #include "lib/HostFullPath.h"
+#include "lib/HostNodePath.h"
 #include "lib/HostServices.h"
+#include "lib/HostText.h"
 
 #include <Inventor/SoPath.h>
 #include <Inventor/nodes/SoNode.h>
 
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QTableView>
@@ -45,6 +50,7 @@ void HostBrowser::buildSceneView()
                    {HostSceneModel::NameColumn, HostSceneModel::ParentsColumn});
     connect(m_sceneView->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)),
             SLOT(s_treeSelectionChanged()));
+    addCopyAction(*m_sceneView, QStringLiteral("actionCopyNodePath"), SLOT(copyNodePath()));
 }
 
 void HostBrowser::buildFieldView()
@@ -67,6 +73,19 @@ void HostBrowser::buildFieldView()
                     HostFieldModel::ConnectedColumn});
     connect(m_fieldView->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)),
             SLOT(s_fieldSelectionChanged()));
+    addCopyAction(*m_fieldView, QStringLiteral("actionCopyFieldPath"), SLOT(copyFieldPath()));
+}
+
+/** In the view's context menu, and on its keys while it has the keyboard. */
+void HostBrowser::addCopyAction(QAbstractItemView& view, const QString& name, const char* slot)
+{
+    auto* action = new QAction(tr("Copy &path"), &view);
+    action->setObjectName(name);
+    action->setShortcut(QKeySequence(tr("Ctrl+Shift+C")));
+    action->setShortcutContext(Qt::WidgetShortcut);
+    connect(action, SIGNAL(triggered()), this, slot);
+    view.addAction(action);
+    view.setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void HostBrowser::setRoot(SoNode* root)
@@ -92,6 +111,54 @@ void HostBrowser::selectPath(const SoPath* path)
     shown->unref();
     m_sceneView->setCurrentIndex(index);
     m_sceneView->scrollTo(index);
+}
+
+bool HostBrowser::select(const QString& text, QString* error)
+{
+    const HostNodePath::Target target = HostNodePath::split(text);
+    SoNode* root = m_sceneModel.root();
+    SoPath* path = root ? HostNodePath::find(*root, target.node, error) : nullptr;
+    if (!path)
+        return false;
+    path->ref();
+    SoField* field = HostFullPath::tail(*path)->getField(target.field.toUtf8().constData());
+    const bool isThere = field || target.field.isEmpty();
+    if (isThere)
+        selectPath(path);
+    else
+        *error = tr("\"%1\" has no field \"%2\".").arg(target.node, target.field);
+    if (field)
+        m_services.selectField(field);
+    path->unref();
+    return isThere;
+}
+
+QString HostBrowser::nodePath() const
+{
+    const QModelIndexList rows = m_sceneView->selectionModel()->selectedRows();
+    SoPath* path = rows.isEmpty() ? nullptr : m_sceneModel.path(rows.constFirst());
+    if (!path)
+        return {};
+    path->ref();
+    const QString text = HostNodePath::text(*path);
+    path->unref();
+    return text;
+}
+
+void HostBrowser::copyNodePath() const
+{
+    const QString path = nodePath();
+    if (!path.isEmpty())
+        QApplication::clipboard()->setText(path);
+}
+
+void HostBrowser::copyFieldPath() const
+{
+    SbName name;
+    SoNode* const node = m_services.selectedNode();
+    if (node && node->getFieldName(m_services.selectedField(), name))
+        QApplication::clipboard()->setText(nodePath() + QLatin1Char('.') +
+                                           HostText::fromCoin(name));
 }
 
 void HostBrowser::s_treeSelectionChanged()

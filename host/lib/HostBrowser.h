@@ -8,6 +8,7 @@
 #include <QObject>
 
 class HostServices;
+class QAbstractItemView;
 class QTableView;
 class QTreeView;
 class SoField;
@@ -33,6 +34,13 @@ public:
     /** Shows another scene, nothing of it selected; null shows none. */
     void setRoot(SoNode* root);
 
+    /**
+     * Selects a node and, where one is named, a field of it; see HostNodePath for the text. False
+     * when there is no such node or field: then `error` says what there is not, and nothing
+     * changes.
+     */
+    bool select(const QString& text, QString* error);
+
 public slots:
     /** Selects the node at the path's end, or the nearest above it that the tree shows, and brings
      *  its row into view; null selects nothing. */
@@ -43,6 +51,8 @@ signals:
     void nodeSelected(const SoPath* path);
 
 private slots:
+    void copyNodePath() const;
+    void copyFieldPath() const;
     void s_treeSelectionChanged();
     void s_fieldSelectionChanged();
     void s_selectedNodeChanged(SoFieldContainer* node);
@@ -51,6 +61,9 @@ private slots:
 private:
     void buildSceneView();
     void buildFieldView();
+    void addCopyAction(QAbstractItemView& view, const QString& name, const char* slot);
+    /** Of the selected row of the tree; empty when there is none. */
+    QString nodePath() const;
 
     HostServices& m_services;
     HostSceneModel m_sceneModel;

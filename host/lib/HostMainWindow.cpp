@@ -122,7 +122,7 @@ void HostMainWindow::connectParts()
     connect(&m_fileMenu, SIGNAL(saved()), SLOT(s_saved()));
     connect(&m_fileMenu, SIGNAL(quitRequested()), SLOT(close()));
     connect(&m_viewMenu, SIGNAL(resetRequested()), SLOT(resetLayout()));
-    connect(&m_fileMenu, SIGNAL(message(QString)), statusBar(), SLOT(showMessage(QString)));
+    connect(&m_fileMenu, SIGNAL(message(QString)), SLOT(showMessage(QString)));
 }
 
 void HostMainWindow::setView(QWidget* view)
@@ -132,18 +132,27 @@ void HostMainWindow::setView(QWidget* view)
 
 void HostMainWindow::loadPlugins(const QString& directory)
 {
-    const QStringList errors = m_plugins.load(directory);
-    if (!errors.isEmpty()) {
-        statusBar()->showMessage(tr("Not every plug-in could be loaded"));
-        auto* box =
-            new QMessageBox(QMessageBox::Warning, tr("Plug-ins"),
-                            tr("Not every plug-in could be loaded."), QMessageBox::Ok, this);
-        box->setObjectName(QStringLiteral("pluginErrorsBox"));
-        box->setAttribute(Qt::WA_DeleteOnClose);
-        box->setInformativeText(errors.join('\n'));
-        // Not before the window itself is shown.
-        QTimer::singleShot(0, box, SLOT(open()));
-    }
+    tellPluginErrors(m_plugins.load(directory));
+}
+
+void HostMainWindow::loadPlugins(const QStringList& files)
+{
+    tellPluginErrors(m_plugins.load(files));
+}
+
+void HostMainWindow::tellPluginErrors(const QStringList& errors)
+{
+    if (errors.isEmpty())
+        return;
+    const QString text = tr("Not every plug-in could be loaded.");
+    statusBar()->showMessage(text);
+    auto* box = new QMessageBox(QMessageBox::Warning, tr("Plug-ins"), text, QMessageBox::Ok, this);
+    box->setObjectName(QStringLiteral("pluginErrorsBox"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(errors.join('\n'));
+    // Not before the window itself is shown.
+    QTimer::singleShot(0, box, SLOT(open()));
 }
 
 void HostMainWindow::restoreLayout()
@@ -213,6 +222,13 @@ void HostMainWindow::updateTitle()
     setWindowFilePath(m_scene.filePath());
     setWindowTitle(tr("%1[*] - Tavrik").arg(file.isEmpty() ? tr("No scene") : file));
     setWindowModified(m_scene.isModified());
+}
+
+/** At once: what is announced may keep the program from drawing for a while. */
+void HostMainWindow::showMessage(const QString& text)
+{
+    statusBar()->showMessage(text);
+    statusBar()->repaint();
 }
 
 QMenu* HostMainWindow::createPopupMenu()

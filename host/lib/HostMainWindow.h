@@ -33,6 +33,10 @@ public:
     void setView(QWidget* view);
     /** Loads the plug-ins of a folder and says, in a box, which of them cannot be used. */
     void loadPlugins(const QString& directory);
+    /** The same for single libraries. */
+    void loadPlugins(const QStringList& files);
+    /** For who wants to say himself what cannot be used. */
+    HostPluginFolder& plugins() { return m_plugins; }
     /** Arranges the docks as the last run left them; call it once the view and plug-ins are in. */
     void restoreLayout();
     /** Offers the first of these files that exists in the Help menu. */
@@ -40,6 +44,9 @@ public:
 
     /** Opens a scene, asking first when the open one has unsaved changes. */
     bool openFile(const QString& path) { return m_fileMenu.openFile(path); }
+
+    /** Selects a node and perhaps a field of it; see HostBrowser::select(). */
+    bool select(const QString& path, QString* error) { return m_browser.select(path, error); }
 
     HostScene& scene() { return m_scene; }
     HostServices& services() { return m_services; }
@@ -68,6 +75,7 @@ private slots:
     void s_edited();
     void s_saved();
     void updateTitle();
+    void showMessage(const QString& text);
     void openDropped();
 
 private:
@@ -78,6 +86,7 @@ private:
     QDockWidget* addDock(const QString& name, const QString& title, QWidget* widget,
                          Qt::DockWidgetArea area);
     void arrange();
+    void tellPluginErrors(const QStringList& errors);
     static void fieldChanged(void* window, SoSensor*);
 
     // The plug-ins' parts go first, the scene last.

@@ -5,34 +5,43 @@
 #include <TvkPlugin.h>
 
 #include <QDir>
-
-namespace {
-
-QStringList libraries(const QDir& directory)
-{
-    const QString first = QStringLiteral("TvkDefaults.so");
-    QStringList names = directory.entryList({QStringLiteral("*.so")}, QDir::Files, QDir::Name);
-    if (names.removeAll(first) > 0)
-        names.prepend(first);
-    return names;
-}
-
-} // namespace
+#include <QFileInfo>
 
 HostPluginFolder::HostPluginFolder(HostPluginsManager& manager) : m_manager(manager) {}
 
 HostPluginFolder::~HostPluginFolder() = default;
 
+QStringList HostPluginFolder::files(const QString& directory)
+{
+    const QString first = QStringLiteral("TvkDefaults.so");
+    const QDir folder(directory);
+    QStringList names = folder.entryList({QStringLiteral("*.so")}, QDir::Files, QDir::Name);
+    if (names.removeAll(first) > 0)
+        names.prepend(first);
+    for (QString& name : names)
+        name = folder.absoluteFilePath(name);
+    return names;
+}
+
 QStringList HostPluginFolder::load(const QString& directory)
 {
-    const QDir folder(directory);
-    const QStringList names = libraries(folder);
+    const QStringList libraries = files(directory);
+    return libraries.isEmpty()
+               ? QStringList(QObject::tr("There is no plug-in in \"%1\".").arg(directory))
+               : load(libraries);
+}
+
+QStringList HostPluginFolder::load(const QStringList& files)
+{
     QStringList errors;
-    if (names.isEmpty())
-        errors.append(QObject::tr("There is no plug-in in \"%1\".").arg(directory));
-    for (const QString& name : names) {
+    QStringList done;
+    for (const QString& file : files) {
+        const QString canonical = QFileInfo(file).canonicalFilePath();
+        if (!canonical.isEmpty() && done.contains(canonical))
+            continue;
+        done.append(canonical);
         auto loader = std::make_unique<HostPluginLoader>();
-        if (TvkPlugin* plugin = loader->load(folder.absoluteFilePath(name))) {
+        if (TvkPlugin* plugin = loader->load(file)) {
             m_manager.adopt(*plugin);
             m_loaders.push_back(std::move(loader));
         } else {

@@ -11,7 +11,7 @@
 
 class HostPluginsManager;
 
-/** Every plug-in library of one folder, loaded together and let go together. */
+/** Plug-in libraries that are loaded together and let go together, as those of a folder are. */
 class TAVRIKHOST_EXPORT HostPluginFolder
 {
 public:
@@ -21,8 +21,13 @@ public:
     HostPluginFolder(const HostPluginFolder&) = delete;
     HostPluginFolder& operator=(const HostPluginFolder&) = delete;
 
-    /** Loads what the folder holds, the default extensions first; answers what went wrong. */
+    /** The libraries in a folder, the default extensions first. */
+    static QStringList files(const QString& directory);
+
+    /** Loads what a folder holds; answers what went wrong, a line for each library. */
     QStringList load(const QString& directory);
+    /** The same for single libraries; one that is named twice is loaded once. */
+    QStringList load(const QStringList& files);
     /** Takes the extensions out of the host, last plug-in first. The libraries stay loaded. */
     void release();
     /** Destroys the plug-in objects; nothing of theirs may be in use any more. */

@@ -6,6 +6,8 @@
 #include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoSeparator.h>
 
+#include <QAction>
+#include <QClipboard>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QTableView>
@@ -35,6 +37,12 @@ private slots:
     void undoReachesTheStackFromACommittedLine();
     void undoBelongsToALineThatIsBeingTypedInto();
     void aFolderWithoutPluginsIsTold();
+    void aLibraryThatIsNoPluginIsTold();
+    void aPathSelectsANodeAndAField();
+    void aPathThatLeadsNowhereChangesNothing_data();
+    void aPathThatLeadsNowhereChangesNothing();
+    void thePathOfARowCanBeCopied();
+    void thePathOfAFieldCanBeCopied();
 
 private:
     WindowOnCone m_session;
@@ -212,6 +220,66 @@ void tst_HostMainWindow::aFolderWithoutPluginsIsTold()
     const QString folder = m_session.path("nothing here");
     m_session->loadPlugins(folder);
     QVERIFY(m_session.child<QMessageBox>("pluginErrorsBox")->informativeText().contains(folder));
+}
+
+void tst_HostMainWindow::aLibraryThatIsNoPluginIsTold()
+{
+    m_session->loadPlugins(QStringList{m_session.file()});
+    const auto* box = m_session.child<QMessageBox>("pluginErrorsBox");
+    QVERIFY(box->informativeText().contains("cone.iv cannot be opened"));
+}
+
+void tst_HostMainWindow::aPathSelectsANodeAndAField()
+{
+    QString error;
+    QVERIFY2(m_session->select("/Group/Cone.height", &error), qPrintable(error));
+    QCOMPARE(m_session->services().selectedNode(), static_cast<SoNode*>(&m_session.cone()));
+    QCOMPARE(m_session->services().selectedField(),
+             static_cast<SoField*>(&m_session.cone().height));
+    QCOMPARE(m_session.child<QTreeView>("sceneView")->currentIndex(),
+             m_session.row("Cone").siblingAtColumn(0));
+    QVERIFY(m_session->select("/Group", &error));
+    QCOMPARE(m_session->services().selectedField(), nullptr);
+}
+
+void tst_HostMainWindow::aPathThatLeadsNowhereChangesNothing_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("node") << "/Group/Sphere[0]";
+    QTest::newRow("field") << "/Group.radius";
+}
+
+void tst_HostMainWindow::aPathThatLeadsNowhereChangesNothing()
+{
+    QFETCH(QString, path);
+    selectingAFieldRowSelectsTheField();
+    QString error;
+    QVERIFY(!m_session->select(path, &error));
+    QVERIFY(!error.isEmpty());
+    QCOMPARE(m_session->services().selectedField(),
+             static_cast<SoField*>(&m_session.cone().bottomRadius));
+}
+
+void tst_HostMainWindow::thePathOfARowCanBeCopied()
+{
+    m_session.selectNode("Cone");
+    auto* tree = m_session.child<QTreeView>("sceneView");
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(QApplication::clipboard()->text(), QString("/Group/Cone"));
+    m_session->selectPath(nullptr);
+    m_session.child<QAction>("actionCopyNodePath")->trigger();
+    QCOMPARE(QApplication::clipboard()->text(), QString("/Group/Cone"));
+}
+
+void tst_HostMainWindow::thePathOfAFieldCanBeCopied()
+{
+    m_session.selectNode("Cone");
+    m_session.selectField("height");
+    auto* fields = m_session.child<QTableView>("fieldView");
+    fields->setFocus();
+    QTest::keyClick(fields, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(QApplication::clipboard()->text(), QString("/Group/Cone.height"));
 }
 
 TAVRIK_TEST_MAIN(tst_HostMainWindow)

@@ -20,6 +20,16 @@ void commitPendingEdit()
     }
 }
 
+/** Shows by the mouse pointer that the program is at work, for the life of this object. */
+class BusyPointer
+{
+public:
+    BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyPointer() { QApplication::restoreOverrideCursor(); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+};
+
 /** A box that lists much is no longer a box: what exceeds it goes behind "Show Details...". */
 constexpr int LinesInBox = 8;
 
@@ -71,7 +81,8 @@ bool HostFileMenu::openFile(const QString& path)
 bool HostFileMenu::read(const QString& path)
 {
     QString error;
-    if (!m_scene.open(path, &error)) {
+    if (!openAtWork(path, &error)) {
+        emit message(QString());
         tell(QMessageBox::Critical, tr("\"%1\" cannot be opened.").arg(path), error);
         return false;
     }
@@ -81,6 +92,20 @@ bool HostFileMenu::read(const QString& path)
     if (!m_scene.readErrors().isEmpty())
         tellReadErrors();
     return true;
+}
+
+bool HostFileMenu::openAtWork(const QString& path, QString* error)
+{
+    const BusyPointer busy;
+    emit message(tr("Opening %1 ...").arg(path));
+    return m_scene.open(path, error);
+}
+
+bool HostFileMenu::saveAtWork(const QString& path, QString* error)
+{
+    const BusyPointer busy;
+    emit message(tr("Saving %1 ...").arg(path));
+    return m_scene.save(path, error);
 }
 
 void HostFileMenu::tellReadErrors()
@@ -127,7 +152,8 @@ bool HostFileMenu::write(const QString& path)
 {
     commitPendingEdit();
     QString error;
-    if (!m_scene.save(path, &error)) {
+    if (!saveAtWork(path, &error)) {
+        emit message(QString());
         tell(QMessageBox::Critical, tr("\"%1\" cannot be saved.").arg(path), error);
         return false;
     }

@@ -45,6 +45,9 @@ private:
     void addEntries();
     bool read(const QString& path);
     bool write(const QString& path);
+    // A long work shows that it is going on.
+    bool openAtWork(const QString& path, QString* error);
+    bool saveAtWork(const QString& path, QString* error);
     void tellReadErrors();
     void tell(QMessageBox::Icon icon, const QString& text, const QString& details);
 

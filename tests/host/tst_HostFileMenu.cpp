@@ -7,6 +7,7 @@
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QMimeData>
+#include <QStatusBar>
 
 class tst_HostFileMenu : public QObject
 {
@@ -30,6 +31,9 @@ private slots:
     void openedFilesAreRemembered();
     void missingFilesAreForgotten();
     void onlyTenFilesAreRemembered();
+    void workShowsThatItIsGoingOn_data();
+    void workShowsThatItIsGoingOn();
+    void failedWorkLeavesNoSignOfGoingOn();
 
 private:
     WindowOnCone m_session;
@@ -191,6 +195,47 @@ void tst_HostFileMenu::onlyTenFilesAreRemembered()
     }
     QCOMPARE(recent->files().size(), HostRecentFiles::Limit);
     QCOMPARE(QFileInfo(recent->files().constFirst()).fileName(), QStringLiteral("11.iv"));
+}
+
+void tst_HostFileMenu::workShowsThatItIsGoingOn_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("says");
+    QTest::newRow("opening") << "open"
+                             << "Opening ";
+    QTest::newRow("saving") << "save"
+                            << "Saving ";
+}
+
+void tst_HostFileMenu::workShowsThatItIsGoingOn()
+{
+    QFETCH(QString, action);
+    QFETCH(QString, says);
+    m_session.edit();
+    QString said;
+    bool isBusy = false;
+    // The mark goes as the last thing of both.
+    connect(&m_session->scene(), &HostScene::modifiedChanged, this, [&] {
+        said = m_session->statusBar()->currentMessage();
+        isBusy = QApplication::overrideCursor() != nullptr;
+    });
+    if (action == "open")
+        WindowOnCone::answerNextBox(QMessageBox::Discard);
+    if (action == "open")
+        QVERIFY(m_session->openFile(m_session.file()));
+    else
+        m_session.child<QAction>("actionSave")->trigger();
+    QVERIFY2(said.startsWith(says), qPrintable(said));
+    QVERIFY(isBusy);
+    QVERIFY(!QApplication::overrideCursor());
+    QVERIFY(!m_session->statusBar()->currentMessage().endsWith("..."));
+}
+
+void tst_HostFileMenu::failedWorkLeavesNoSignOfGoingOn()
+{
+    QVERIFY(!m_session->openFile(m_session.path("none.iv")));
+    QCOMPARE(m_session->statusBar()->currentMessage(), QString());
+    QVERIFY(!QApplication::overrideCursor());
 }
 
 TAVRIK_TEST_MAIN(tst_HostFileMenu)

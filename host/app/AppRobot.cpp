@@ -10,6 +10,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace {
 
 /** Fewer may come from a blinking cursor or from rounding in the drawing. */
@@ -94,13 +96,19 @@ QImage AppRobot::picture(const QWidget& widget)
         .convertToFormat(QImage::Format_RGB32);
 }
 
-bool AppRobot::isDrawn(const QImage& picture)
+bool AppRobot::isCovered(const QImage& picture)
 {
     const QRect area = picture.rect();
-    for (const QPoint& corner :
-         {area.topLeft(), area.topRight(), area.bottomLeft(), area.bottomRight()})
-        if (picture.pixel(corner) == qRgb(0, 0, 0))
-            return false;
+    const auto corners = {area.topLeft(), area.topRight(), area.bottomLeft(), area.bottomRight()};
+    return std::none_of(corners.begin(), corners.end(), [&picture](const QPoint& corner) {
+        return picture.pixel(corner) == qRgb(0, 0, 0);
+    });
+}
+
+bool AppRobot::isDrawn(const QImage& picture)
+{
+    if (!isCovered(picture))
+        return false;
     QImage plain(picture.size(), picture.format());
     plain.fill(picture.pixel(0, 0));
     return differ(picture, plain);

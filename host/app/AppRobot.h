@@ -23,7 +23,9 @@ void type(const QString& text);
 
 /** What the screen shows of a widget, its frame included if it is a window. */
 QImage picture(const QWidget& widget);
-/** Whether a widget's 3D picture is there as a whole: what is not drawn yet is black. */
+/** Whether a 3D picture reaches into its corners: what is not drawn yet is black. */
+bool isCovered(const QImage& picture);
+/** The same, and there is something in it. */
 bool isDrawn(const QImage& picture);
 /** Whether more than a few pixels differ. */
 bool differ(const QImage& one, const QImage& other);

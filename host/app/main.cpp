@@ -1,18 +1,46 @@
 #include "app/AppArguments.h"
-#include "app/AppGallery.h"
-#include "app/AppTour.h"
+#include "app/AppJobs.h"
 #include "app/AppWindow.h"
 
 #include "scenegraph/SoTavrik.h"
 
 #include <QApplication>
+#include <QMessageBox>
 
 #include <algorithm>
 #include <cstdio>
+#include <vector>
 
 namespace {
 
-enum ExitCode { Done = 0, Failed = 1, Refused = 2 };
+/**
+ * The program's arguments as Qt is given them. Qt has an option --plugin of its own, and would take
+ * ours for it together with the file behind it, so the two become one.
+ */
+class Arguments
+{
+public:
+    Arguments(int argc, char** argv)
+    {
+        for (int i = 0; i < argc; ++i) {
+            m_texts.emplace_back(argv[i]);
+            if (m_texts.back() == "--plugin" && i + 1 < argc)
+                m_texts.back().append('=').append(argv[++i]);
+        }
+        for (QByteArray& text : m_texts)
+            m_pointers.push_back(text.data());
+        m_pointers.push_back(nullptr);
+        m_count = int(m_texts.size());
+    }
+
+    int& count() { return m_count; }
+    char** values() { return m_pointers.data(); }
+
+private:
+    std::vector<QByteArray> m_texts;
+    std::vector<char*> m_pointers;
+    int m_count = 0;
+};
 
 int print(const AppArguments& arguments)
 {
@@ -20,73 +48,96 @@ int print(const AppArguments& arguments)
     FILE* stream = refused ? stderr : stdout;
     std::fprintf(stream, refused ? "tavrik: %s\nTry \"tavrik --help\".\n" : "%s\n",
                  qUtf8Printable(arguments.message));
-    return refused ? Refused : Done;
+    return refused ? AppJobs::Refused : AppJobs::Done;
 }
 
-/** Help needs no display, so it must not wait for QApplication. */
-bool asksForHelp(int argc, char** argv)
+/** What the arguments ask for as far as can be told while Qt's own ones are among them. */
+AppArguments withoutDisplay(int argc, char** argv)
 {
-    return std::any_of(argv + 1, argv + argc, [](const char* argument) {
-        const QByteArray text(argument);
-        return text == "--help" || text == "-h" || text == "--version" || text == "-v";
+    Arguments given(argc, argv);
+    const QCoreApplication application(given.count(), given.values());
+    return AppArguments::parse(QCoreApplication::arguments());
+}
+
+/** Without one Qt ends the program by a crash, unless it is told to draw elsewhere. */
+bool lacksDisplay(int argc, char** argv)
+{
+    const bool isToldWhere = std::any_of(argv + 1, argv + argc, [](const char* argument) {
+        return QByteArray(argument).contains("-platform");
     });
+    return !isToldWhere && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") &&
+           qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-int runTour(AppWindow& window, const QString& folder)
+/** The platforms without a screen, which editors and lists can do with. */
+bool lacksPictures(const AppArguments& arguments)
 {
-    AppTour tour(window, folder);
-    const bool passed = tour.run();
-    std::fprintf(passed ? stdout : stderr, "tavrik: %s\n", qUtf8Printable(tour.message()));
-    return passed ? Done : Failed;
+    const QString platform = QGuiApplication::platformName();
+    return arguments.galleryFolder.isEmpty() && (platform == QLatin1String("offscreen") ||
+                                                 platform.startsWith(QLatin1String("minimal")));
 }
 
-int runGallery(const QString& folder)
+int refuse(const char* reason)
 {
-    // Without a view, which needs a display that can draw in three dimensions.
-    HostMainWindow window;
-    window.loadPlugins(HostPluginLoader::pluginDirectory());
-    window.show();
-    AppGallery gallery(window, folder);
-    const bool passed = gallery.run();
-    std::fprintf(passed ? stdout : stderr, "tavrik: %s\n", qUtf8Printable(gallery.message()));
-    return passed ? Done : Failed;
+    std::fprintf(stderr, "tavrik: %s\n", reason);
+    return AppJobs::Failed;
+}
+
+bool needsNoApplication(const AppArguments& arguments)
+{
+    return arguments.action == AppArguments::PrintHelp ||
+           arguments.action == AppArguments::PrintVersion;
+}
+
+void tellWhatIsNotThere(AppWindow& window, const QString& error)
+{
+    auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Tavrik"), error,
+                                QMessageBox::Ok, &window);
+    box->setObjectName(QStringLiteral("selectionErrorBox"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->open();
 }
 
 int showWindow(const AppArguments& arguments)
 {
     AppWindow window;
-    window.loadPlugins(HostPluginLoader::pluginDirectory());
+    if (arguments.plugins.isEmpty())
+        window.loadPlugins(HostPluginLoader::pluginDirectory());
+    else
+        window.loadPlugins(arguments.plugins);
     window.restoreLayout();
     window.show();
-    const bool opened = arguments.scene.isEmpty() || window.openFile(arguments.scene);
-    if (arguments.tourFolder.isEmpty())
-        return QApplication::exec();
-    return opened ? runTour(window, arguments.tourFolder) : Failed;
-}
-
-int show(const AppArguments& arguments)
-{
-    SoTavrik::init();
-    if (!arguments.galleryFolder.isEmpty())
-        return runGallery(arguments.galleryFolder);
-    const int result = showWindow(arguments);
-    // The tour ends with every editor there is, in a window without a scene.
-    if (result != Done || arguments.tourFolder.isEmpty())
-        return result;
-    return runGallery(arguments.tourFolder + QStringLiteral("/editors"));
+    const bool isOpen = !arguments.scene.isEmpty() && window.openFile(arguments.scene);
+    QString error;
+    if (isOpen && !arguments.selection.isEmpty() && !window.select(arguments.selection, &error))
+        tellWhatIsNotThere(window, error);
+    return QApplication::exec();
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (asksForHelp(argc, argv)) {
-        QCoreApplication application(argc, argv);
-        return print(AppArguments::parse(QCoreApplication::arguments()));
-    }
-    QApplication application(argc, argv);
+    const AppArguments early = withoutDisplay(argc, argv);
+    if (needsNoApplication(early))
+        return print(early);
+    // The editors are widgets, but nobody is to see them.
+    if (early.action == AppArguments::ListExtensions)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (lacksDisplay(argc, argv))
+        return refuse("There is no display to open a window on.");
+    Arguments given(argc, argv);
+    const QApplication application(given.count(), given.values());
     QApplication::setApplicationName(QStringLiteral("tavrik"));
     QApplication::setApplicationDisplayName(QStringLiteral("Tavrik"));
     const AppArguments arguments = AppArguments::parse(QApplication::arguments());
-    return arguments.action == AppArguments::Show ? show(arguments) : print(arguments);
+    if (arguments.action == AppArguments::Refuse)
+        return print(arguments);
+    SoTavrik::init();
+    if (arguments.action == AppArguments::ListExtensions)
+        return AppJobs::listExtensions(arguments);
+    if (lacksPictures(arguments))
+        return refuse("This platform of Qt cannot show a picture in three dimensions.");
+    return AppJobs::isAskedFor(arguments) ? AppJobs::run(arguments) : showWindow(arguments);
 }

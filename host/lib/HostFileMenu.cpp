@@ -10,6 +10,7 @@ namespace {
 
 const char* const NameFilter =
     "Scenes (*.iv *.wrl);;Open Inventor (*.iv);;VRML (*.wrl);;All files (*)";
+const char* const VrmlFilter = "VRML (*.wrl)";
 
 /** A line edit commits when it loses the focus: a half-made edit must not miss the file. */
 void commitPendingEdit()
@@ -29,6 +30,12 @@ public:
     BusyPointer(const BusyPointer&) = delete;
     BusyPointer& operator=(const BusyPointer&) = delete;
 };
+
+/** For a name without one; the format that a file is written in goes by it. */
+QString suffixOf(const QString& filter)
+{
+    return filter == QLatin1String(VrmlFilter) ? QStringLiteral("wrl") : QStringLiteral("iv");
+}
 
 /** A box that lists much is no longer a box: what exceeds it goes behind "Show Details...". */
 constexpr int LinesInBox = 8;
@@ -144,7 +151,9 @@ bool HostFileMenu::saveAs()
     QFileDialog dialog(parentWidget(), tr("Save the scene"), m_scene.filePath(), tr(NameFilter));
     dialog.setObjectName(QStringLiteral("saveDialog"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("iv"));
+    dialog.setDefaultSuffix(suffixOf(QString()));
+    connect(&dialog, &QFileDialog::filterSelected, &dialog,
+            [&dialog](const QString& filter) { dialog.setDefaultSuffix(suffixOf(filter)); });
     return dialog.exec() == QDialog::Accepted && write(dialog.selectedFiles().constFirst());
 }
 

@@ -4,6 +4,7 @@
 #include <Inventor/nodes/SoCone.h>
 
 #include <QAction>
+#include <QComboBox>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QMimeData>
@@ -28,6 +29,7 @@ private slots:
     void aSceneIsSavedUnderAnotherName();
     void aDroppedFileIsOpened();
     void severalDroppedFilesAreRefused();
+    void theChosenFormatGivesTheSuffix();
     void openedFilesAreRemembered();
     void missingFilesAreForgotten();
     void onlyTenFilesAreRemembered();
@@ -189,12 +191,25 @@ void tst_HostFileMenu::missingFilesAreForgotten()
 void tst_HostFileMenu::onlyTenFilesAreRemembered()
 {
     auto* recent = m_session.child<HostRecentFiles>("menuRecentFiles");
-    for (int i = 0; i < HostRecentFiles::Limit + 2; ++i) {
+    for (int i = 0; i < HostRecentFiles::Limit + 2; ++i)
         recent->add(
             m_session.write(QStringLiteral("%1.iv").arg(i), "#Inventor V2.1 ascii\nCone {}\n"));
-    }
     QCOMPARE(recent->files().size(), HostRecentFiles::Limit);
     QCOMPARE(QFileInfo(recent->files().constFirst()).fileName(), QStringLiteral("11.iv"));
+}
+
+void tst_HostFileMenu::theChosenFormatGivesTheSuffix()
+{
+    QTimer::singleShot(0, this, [this] {
+        auto* dialog = m_session.child<QFileDialog>("saveDialog");
+        auto* formats = dialog->findChild<QComboBox*>("fileTypeCombo");
+        formats->setFocus();
+        QTest::keyClicks(formats, "V");
+        dialog->selectFile(m_session.path("bare"));
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    m_session.child<QAction>("actionSaveAs")->trigger();
+    QVERIFY(WindowOnCone::contents(m_session.path("bare.wrl")).startsWith("#VRML V2.0"));
 }
 
 void tst_HostFileMenu::workShowsThatItIsGoingOn_data()

@@ -84,6 +84,8 @@ void HostPluginLoader::askForPlugin()
             m_error = text("%1 made no plug-in").arg(m_path);
     } catch (const std::exception& failure) {
         m_error = text("%1 failed: %2").arg(m_path, QString::fromLocal8Bit(failure.what()));
+    } catch (...) {
+        m_error = text("%1 failed: it does not say why").arg(m_path);
     }
 }
 

@@ -23,6 +23,8 @@ Q_DECL_EXPORT TvkPlugin* loadPlugin()
     ++s_state.loads;
     if (s_state.fail)
         throw std::runtime_error("no memory for it");
+    if (s_state.failWithoutWords)
+        throw s_state.loads;
     if (!s_state.answerNull)
         s_plugin = std::make_unique<TestPlugin>();
     return s_plugin.get();

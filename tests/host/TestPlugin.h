@@ -8,10 +8,11 @@
  */
 struct TestPluginState
 {
-    int loads = 0;           ///< calls of loadPlugin()
-    int unloads = 0;         ///< calls of unloadPlugin()
-    bool answerNull = false; ///< let loadPlugin() make nothing
-    bool fail = false;       ///< let loadPlugin() throw
+    int loads = 0;                 ///< calls of loadPlugin()
+    int unloads = 0;               ///< calls of unloadPlugin()
+    bool answerNull = false;       ///< let loadPlugin() make nothing
+    bool fail = false;             ///< let loadPlugin() throw
+    bool failWithoutWords = false; ///< let it throw what is no exception
 };
 
 /** Exported as "testPluginState". */

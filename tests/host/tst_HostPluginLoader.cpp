@@ -32,6 +32,7 @@ private slots:
     void aLibraryWithoutTheFunctionsSaysWhichIsMissing();
     void aLibraryThatMakesNoPluginSaysSo();
     void aLibraryThatThrowsSaysWhy();
+    void aLibraryThatThrowsAnythingIsRefused();
     void aSuccessClearsTheError();
 
     void thePluginDirectoryStandsBesideThisLibrary();
@@ -193,6 +194,14 @@ void tst_HostPluginLoader::aLibraryThatThrowsSaysWhy()
     HostPluginLoader loader;
     QCOMPARE(loader.load(TEST_PLUGIN), nullptr);
     QCOMPARE(loader.errorString(), QString(TEST_PLUGIN) + " failed: no memory for it");
+}
+
+void tst_HostPluginLoader::aLibraryThatThrowsAnythingIsRefused()
+{
+    m_state->failWithoutWords = true;
+    HostPluginLoader loader;
+    QCOMPARE(loader.load(TEST_PLUGIN), nullptr);
+    QVERIFY(loader.errorString().startsWith(QString(TEST_PLUGIN) + " failed"));
 }
 
 void tst_HostPluginLoader::aSuccessClearsTheError()

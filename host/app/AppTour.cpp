@@ -62,10 +62,9 @@ bool AppTour::run()
         return fail(QStringLiteral("the folder %1 cannot be made").arg(m_folder.path()));
     const bool passed =
         waitForScene() && editVector() && undoEdit() && ignoreField() && undoIgnore();
-    if (passed) {
+    if (passed)
         m_message = QStringLiteral("the tour wrote %1 pictures into %2")
                         .arg(QString::number(m_pictures), m_folder.absolutePath());
-    }
     return passed;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -42,6 +43,11 @@ QPushButton* DvEditorParts::newButton(const char* objectName, const QIcon& icon,
     button->setIcon(icon);
     button->setFocusPolicy(Qt::NoFocus);
     return button;
+}
+
+void DvEditorParts::widenForNumber(QLineEdit& line)
+{
+    line.setMinimumWidth(line.fontMetrics().horizontalAdvance(QStringLiteral("-0.123456 ")));
 }
 
 void DvEditorParts::dressLabel(QLabel& label, const char* typeName)

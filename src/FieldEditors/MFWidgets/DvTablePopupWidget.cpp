@@ -61,6 +61,7 @@ void DvTablePopupWidget::buildPopupLine(QGridLayout& grid, int row, int column)
     auto* const line = new DvTablePopupLineEdit(m_popup, this, "m_popupLine");
     line->setValidator(new DvRealValidator(line));
     line->setAccessibleName(tr("Row %1, column %2").arg(row + 1).arg(column + 1));
+    DvEditorParts::widenForNumber(*line);
     grid.addWidget(line, row, column);
     m_lines.add(line);
     connect(line, SIGNAL(editingFinished()), SLOT(s_leavePopup()));
@@ -92,8 +93,10 @@ void DvTablePopupWidget::setEditFrame()
         return;
     }
     showCurrentRow();
-    if (isRow(table().currentRow()) && !isReadOnly())
-        popup->popUpBeside(*m_editButton);
+    if (!isRow(table().currentRow()) || isReadOnly())
+        return;
+    popup->popUpBeside(*m_editButton);
+    m_lines.line(0).setFocus(Qt::TabFocusReason);
 }
 
 void DvTablePopupWidget::showCurrentRow()

@@ -1,6 +1,7 @@
 #include "FieldEditors/SFWidgets/DvPopupWidget.h"
 
 #include "FieldEditors/DvButtonIcons.h"
+#include "FieldEditors/DvEditorParts.h"
 #include "FieldEditors/DvLayoutConstants.h"
 #include "FieldEditors/DvLineEdit.h"
 #include "FieldEditors/DvPopupFrame.h"
@@ -52,9 +53,7 @@ void DvPopupWidget::buildPopupLine(QGridLayout& grid, int row, int column)
     auto* const line = new DvLineEdit("m_popupLine", m_popup);
     line->setValidator(newValidator(line));
     line->setAccessibleName(tr("Row %1, column %2").arg(row + 1).arg(column + 1));
-    // Wide enough for most numbers, and no wider: there may be four beside each other.
-    const int width = line->fontMetrics().horizontalAdvance(QStringLiteral("-0.123456 "));
-    line->setMinimumWidth(width);
+    DvEditorParts::widenForNumber(*line);
     grid.addWidget(line, row, column);
     m_lines.add(line);
     connect(line, SIGNAL(editingFinished()), this, SLOT(setFocusLeaveEvent()));

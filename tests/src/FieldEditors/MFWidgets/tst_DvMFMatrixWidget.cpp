@@ -77,6 +77,36 @@ private slots:
         }
     }
 
+    void itsLinesHaveRoomForANumberInLettersOfAnySize_data()
+    {
+        QTest::addColumn<int>("pointSize");
+        QTest::newRow("usual") << 9;
+        QTest::newRow("large") << 24;
+    }
+    void itsLinesHaveRoomForANumberInLettersOfAnySize()
+    {
+        QFETCH(int, pointSize);
+        const QFont usual = QApplication::font();
+        QApplication::setFont(QFont(usual.family(), pointSize));
+        DvMFMatrixWidget editor;
+        const TableRig rig(editor, "mfMatrix");
+        openAt(rig, 0);
+        for (const QLineEdit* line : lines(rig))
+            QVERIFY(line->width() > line->fontMetrics().horizontalAdvance("-0.12345"));
+        QApplication::setFont(usual);
+    }
+
+    void thePopupCanBeTypedIntoAtOnce()
+    {
+        DvMFMatrixWidget editor;
+        const TableRig rig(editor, "mfMatrix");
+        openAt(rig, 1);
+        QCOMPARE(QApplication::focusWidget(), lines(rig)[0]);
+        QTest::keyClicks(QApplication::focusWidget(), "9");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(rig.rows()[1], QByteArray("9 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1"));
+    }
+
     void theEditButtonHasAnIconOf16Pixels()
     {
         DvMFMatrixWidget editor;

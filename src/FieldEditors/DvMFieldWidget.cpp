@@ -16,6 +16,7 @@
 #include <Inventor/fields/SoFieldContainer.h>
 
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -41,6 +42,13 @@ QString masterOf(const SoField& field)
     if (field.getConnectedEngine(output) && output->getContainer())
         return QStringLiteral("engine %1").arg(typeNameOf(*output->getContainer()));
     return QStringLiteral("elsewhere");
+}
+
+/** In a narrow table an equal share of the width would be too little for a word. */
+void fitToLabel(QHeaderView& header, int column)
+{
+    header.setSectionResizeMode(column, QHeaderView::Fixed);
+    header.resizeSection(column, header.sectionSizeHint(column));
 }
 
 } // namespace
@@ -99,6 +107,8 @@ void DvMFieldWidget::buildFrame()
     m_accessBox->setMinimumWidth(DvLayoutConstants::value("MFAccessWidth"));
     m_labelNumElement = new QLabel(frame());
     m_labelNumElement->setObjectName(QStringLiteral("m_labelNumElement"));
+    // The row has no spacing, and the text would touch the spin box.
+    m_labelNumElement->setIndent(m_labelNumElement->fontMetrics().horizontalAdvance(u' '));
     m_table = newTable();
     global->addWidget(m_table, 1);
     buildButtons();
@@ -146,6 +156,10 @@ void DvMFieldWidget::buildTable()
     for (const char* header : m_form.headers)
         labels << QLatin1String(header);
     m_table->setHorizontalHeaderLabels(labels);
+    for (int column = 1; column < labels.size(); ++column) {
+        if (labels[column].size() > 1)
+            fitToLabel(*m_table->horizontalHeader(), column);
+    }
     m_table->delegate().setValueKind(m_form.valueKind);
 }
 

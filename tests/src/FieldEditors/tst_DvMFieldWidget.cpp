@@ -4,6 +4,7 @@
 
 #include "FieldEditors/AccessButtonPrivate.h"
 #include "FieldEditors/MFWidgets/DvMFInt32Widget.h"
+#include "FieldEditors/MFWidgets/DvMFPlaneWidget.h"
 #include "FieldEditors/MFWidgets/DvMFStringWidget.h"
 #include "FieldEditors/MFWidgets/DvMFVec2fWidget.h"
 
@@ -15,6 +16,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
+#include <QToolTip>
 
 /** An editor without a type of its own: the base as it is. */
 class PlainTable : public DvMFieldWidget
@@ -120,6 +122,28 @@ private slots:
                  QStringLiteral("own text"));
     }
 
+    void aHeaderThatIsAWordHasRoomInANarrowTable()
+    {
+        DvMFPlaneWidget editor;
+        TableRig rig(editor, "mfPlane");
+        rig.window.resize(280, 320);
+        TableRig::settle();
+        const QHeaderView& header = *rig.table().horizontalHeader();
+        QVERIFY(header.sectionSize(3) > header.fontMetrics().horizontalAdvance(
+                                            rig.table().horizontalHeaderItem(3)->text()));
+        // The others share what is left.
+        QCOMPARE(header.length(), rig.table().viewport()->width());
+        QVERIFY(qAbs(header.sectionSize(0) - header.sectionSize(2)) <= 1);
+        QVERIFY(header.sectionSize(0) > 0);
+    }
+
+    void theNumberOfRowsKeepsAwayFromTheSpinBox()
+    {
+        DvMFVec2fWidget editor;
+        const TableRig rig(editor, "mfVec2f");
+        QVERIFY(rig.find<QLabel>("m_labelNumElement")->indent() > 0);
+    }
+
     void theOperationsOfATypeComeInTheirOrder()
     {
         const int slots_[] = {slotOf(&DvMFieldWidget::accept), slotOf(&DvMFieldWidget::buildTable),
@@ -219,6 +243,31 @@ private slots:
         QCOMPARE(rig.table().toolTip(), QString());
         rig.enter(0, 0, "5");
         QCOMPARE(rig.rows().at(0), QByteArray("5 8"));
+        master->unref();
+    }
+
+    void theReasonIsSeenWhereverTheMouseRests_data()
+    {
+        QTest::addColumn<bool>("onCell");
+        QTest::newRow("on a cell") << true;
+        QTest::newRow("below the rows") << false;
+    }
+    void theReasonIsSeenWhereverTheMouseRests()
+    {
+        QFETCH(bool, onCell);
+        DvMFVec2fWidget editor;
+        const TableRig rig(editor, "mfVec2f");
+        auto* const master = new SoEveryField;
+        master->ref();
+        rig.field->connectFrom(&master->mfVec2f);
+        TableRig::runSensors();
+        QWidget& viewport = *rig.table().viewport();
+        const QPoint place = onCell ? QPoint(5, 5) : viewport.rect().bottomLeft() + QPoint(5, -5);
+        QCOMPARE(rig.table().indexAt(place).isValid(), onCell);
+        QHelpEvent help(QEvent::ToolTip, place, viewport.mapToGlobal(place));
+        QApplication::sendEvent(&viewport, &help);
+        QCOMPARE(QToolTip::text(), rig.editor.readOnlyReason());
+        QToolTip::hideText();
         master->unref();
     }
 

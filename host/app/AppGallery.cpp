@@ -4,17 +4,13 @@
 
 #include "lib/HostMainWindow.h"
 
-#include <Inventor/SoDB.h>
-#include <Inventor/SoInput.h>
-#include <Inventor/fields/SoSFImage.h>
-#include <Inventor/nodes/SoSeparator.h>
-
 #include <QApplication>
+#include <QHeaderView>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleFactory>
+#include <QTableWidget>
 
-#include <cstring>
 #include <numeric>
 
 namespace {
@@ -22,59 +18,6 @@ namespace {
 constexpr int s_width = 320; ///< of a narrow dock
 constexpr int s_gap = 12;
 constexpr int s_sheetColumns = 3;
-
-const char* const s_scene =
-    "#Inventor V2.1 ascii\n"
-    "Separator {\n"
-    "  DEF things Things {\n"
-    "    fields [ SFBool on, SFBox3s box, SFColor color, SFDouble precise, SFFilePathString path,\n"
-    "      SFFloat real, SFImage image, SFInt32 number, SFTime time, SFMatrix matrix,\n"
-    "      SFName name, SFPlane plane, SFRotation rotation, SFShort little, SFString text,\n"
-    "      SFUInt32 natural, SFUShort littleNatural, SFVec2f spot, SFVec2i32 cell,\n"
-    "      SFVec2s littleCell, SFVec3f place, SFVec4f quad ]\n"
-    "    on TRUE  box -10 -20 -30  10 20 30  color 0.93 0.55 0.13  precise 3.141592653589793\n"
-    "    path \"pictures/parrot.png\"  real 2.5  number 42  time 12.5  name \"parrot\"\n"
-    "    matrix 1 0 0 0  0 0.866 0.5 0  0 -0.5 0.866 0  4 5 6 1  plane 0 1 0 2\n"
-    "    rotation 0 1 0 0.7853982  little -7  text \"A parrot said \\\"hello\\\"\"\n"
-    "    natural 255  littleNatural 31  spot 0.5 0.25  cell 1920 1080  littleCell 640 480\n"
-    "    place 1 -2.5 1e-07  quad 1 2 3 4\n"
-    "  }\n"
-    "  DEF style DrawStyle { style LINES }\n"
-    "  DEF can Cylinder { parts (SIDES | TOP) }\n"
-    "}\n";
-
-SoSeparator* readScene()
-{
-    SoInput input;
-    input.setBuffer(s_scene, std::strlen(s_scene));
-    return SoDB::readAll(&input);
-}
-
-/** A sky above a meadow. */
-void paintImage(SoSFImage& field)
-{
-    const SbVec2s size(96, 64);
-    QByteArray pixels;
-    for (int y = 0; y < size[1]; ++y) {
-        for (int x = 0; x < size[0]; ++x) {
-            const bool isSky = y > 20 + (x * (96 - x)) / 200;
-            const QRgb color = isSky ? qRgb(90 + y, 150 + y, 230) : qRgb(60 + x, 120 + 2 * y, 40);
-            pixels.append(char(qRed(color))).append(char(qGreen(color))).append(char(qBlue(color)));
-        }
-    }
-    const QVector<unsigned char> bytes(pixels.begin(), pixels.end());
-    field.setValue(size, 3, bytes.constData());
-}
-
-SoNode* child(const SoSeparator& scene, const char* name)
-{
-    for (int i = 0; i < scene.getNumChildren(); ++i) {
-        if (scene.getChild(i)->getName() == name) {
-            return scene.getChild(i);
-        }
-    }
-    return nullptr;
-}
 
 QString scaleName(const QWidget& widget)
 {
@@ -96,6 +39,12 @@ QImage below(const QImage& upper, const QImage& lower, const QColor& background)
     return both;
 }
 
+int tableHeight(const QTableWidget& table)
+{
+    return 2 * table.frameWidth() + table.horizontalHeader()->height() +
+           table.verticalHeader()->length();
+}
+
 QImage grab(QWidget& widget)
 {
     return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
@@ -103,61 +52,23 @@ QImage grab(QWidget& widget)
 
 } // namespace
 
-const QVector<AppGallery::Exhibit>& AppGallery::exhibits()
-{
-    static const QVector<Exhibit> s_exhibits = {
-        {"DvSFBitMaskWidget", "can", "parts"},
-        {"DvSFBoolWidget", "things", "on"},
-        {"DvSFBox3sWidget", "things", "box"},
-        {"DvSFColorWidget", "things", "color"},
-        {"DvSFDoubleWidget", "things", "precise"},
-        {"DvSFEnumWidget", "style", "style"},
-        {"DvSFFilePathStringWidget", "things", "path"},
-        {"DvSFFloatWidget", "things", "real"},
-        {"DvSFImageWidget", "things", "image"},
-        {"DvSFInt32Widget", "things", "number"},
-        {"DvSFLineWidget", "things", "time"},
-        {"DvSFMatrixWidget", "things", "matrix"},
-        {"DvSFNameWidget", "things", "name"},
-        {"DvSFPlaneWidget", "things", "plane"},
-        {"DvSFRotationWidget", "things", "rotation"},
-        {"DvSFShortWidget", "things", "little"},
-        {"DvSFStringWidget", "things", "text"},
-        {"DvSFUInt32Widget", "things", "natural"},
-        {"DvSFUShortWidget", "things", "littleNatural"},
-        {"DvSFVec2fWidget", "things", "spot"},
-        {"DvSFVec2i32Widget", "things", "cell"},
-        {"DvSFVec2sWidget", "things", "littleCell"},
-        {"DvSFVec3fWidget", "things", "place"},
-        {"DvSFVec4fWidget", "things", "quad"},
-    };
-    return s_exhibits;
-}
-
 AppGallery::AppGallery(HostMainWindow& window, const QString& folder)
-    : m_window(window), m_folder(folder), m_scene(readScene())
-{
-    if (m_scene) {
-        m_scene->ref();
-        paintImage(*static_cast<SoSFImage*>(child(*m_scene, "things")->getField("image")));
-    }
-}
+    : m_window(window), m_folder(folder)
+{}
 
 AppGallery::~AppGallery()
 {
     m_window.services().selectNode(nullptr);
-    if (m_scene) {
-        m_scene->unref();
-    }
 }
 
 bool AppGallery::run()
 {
-    if (!m_scene || !m_folder.mkpath(QStringLiteral("."))) {
+    if (!m_folder.mkpath(QStringLiteral("."))) {
         return fail(QStringLiteral("the folder %1 cannot be made").arg(m_folder.path()));
     }
-    // Pictures that are the same everywhere.
+    // Pictures that are the same everywhere, and each time.
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setCursorFlashTime(0);
     if (!hang("light") || !hang("dark")) {
         return false;
     }
@@ -170,7 +81,7 @@ bool AppGallery::hang(const char* palette)
 {
     QApplication::setPalette(AppPalette::named(QLatin1String(palette)));
     m_pictures.clear();
-    for (const Exhibit& exhibit : exhibits()) {
+    for (const AppExhibit& exhibit : AppExhibits::all()) {
         if (!take(exhibit, palette)) {
             return false;
         }
@@ -178,24 +89,38 @@ bool AppGallery::hang(const char* palette)
     return writeSheet(palette);
 }
 
-bool AppGallery::take(const Exhibit& exhibit, const char* palette)
+bool AppGallery::take(const AppExhibit& exhibit, const char* palette)
 {
-    SoNode* const node = child(*m_scene, exhibit.node);
-    m_window.services().selectNode(node);
-    m_window.services().selectField(node ? node->getField(exhibit.field) : nullptr);
+    m_window.services().selectNode(m_exhibits.node(exhibit));
+    m_window.services().selectField(m_exhibits.field(exhibit));
     QCoreApplication::processEvents();
     auto* const editor = m_window.findChild<QWidget*>(QLatin1String(exhibit.editor));
     if (!editor || !editor->isVisible()) {
         return fail(QStringLiteral("no %1").arg(QLatin1String(exhibit.editor)));
     }
+    lay(*editor, exhibit.openRow);
     m_pictures.append({QLatin1String(exhibit.editor), pictureOf(*editor)});
     return write(m_pictures.last().image, m_pictures.last().title, palette);
+}
+
+/** As narrow as in a dock; a table with room for all of its rows. */
+void AppGallery::lay(QWidget& editor, int openRow) const
+{
+    int height = editor.minimumSizeHint().height();
+    auto* const table = editor.findChild<QTableWidget*>(QStringLiteral("m_table"));
+    if (table)
+        height += tableHeight(*table) - table->minimumSizeHint().height();
+    editor.resize(s_width, height);
+    if (!table)
+        return;
+    table->setCurrentCell(1, 0);
+    if (openRow >= 0)
+        table->edit(table->model()->index(openRow, 0));
 }
 
 /** With what the editor pops up below it. */
 QImage AppGallery::pictureOf(QWidget& editor) const
 {
-    editor.resize(s_width, editor.minimumSizeHint().height());
     QImage image = grab(editor);
     auto* const button = editor.findChild<QPushButton*>(QStringLiteral("m_editButton"));
     if (!button) {

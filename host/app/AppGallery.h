@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/AppExhibits.h"
+
 #include <QDir>
 #include <QImage>
 #include <QString>
@@ -8,7 +10,6 @@
 class HostMainWindow;
 class QPainter;
 class QWidget;
-class SoSeparator;
 
 /**
  * Makes a picture of every field editor as it stands in a narrow dock, in a light and in a dark
@@ -29,22 +30,15 @@ public:
     QString message() const { return m_message; }
 
 private:
-    /** An editor, and the field that it is shown on. */
-    struct Exhibit
-    {
-        const char* editor;
-        const char* node;
-        const char* field;
-    };
     struct Picture
     {
         QString title;
         QImage image;
     };
-    static const QVector<Exhibit>& exhibits();
 
     bool hang(const char* palette);
-    bool take(const Exhibit& exhibit, const char* palette);
+    bool take(const AppExhibit& exhibit, const char* palette);
+    void lay(QWidget& editor, int openRow) const;
     QImage pictureOf(QWidget& editor) const;
     QVector<int> rowHeights() const;
     int columnWidth() const;
@@ -55,8 +49,8 @@ private:
 
     HostMainWindow& m_window;
     QDir m_folder;
-    SoSeparator* m_scene = nullptr; ///< the nodes whose fields are shown; referenced
-    QVector<Picture> m_pictures;    ///< those of the palette in hand
+    AppExhibits m_exhibits;
+    QVector<Picture> m_pictures; ///< those of the palette in hand
     int m_written = 0;
     QString m_message;
 };

@@ -121,7 +121,7 @@ void tst_Program::theTourWritesAPictureOfEachStep()
     const Result result = run({"--tour", folder, QStringLiteral(TAVRIK_EXAMPLE)});
     QVERIFY2(result.code == 0, qPrintable(result.errors));
     // At its end, every editor in two palettes, and a sheet of each.
-    QCOMPARE(QDir(folder + "/editors").entryList({"*.png"}).size(), 2 * 25);
+    QCOMPARE(QDir(folder + "/editors").entryList({"*.png"}).size(), 2 * (41 + 1));
     const QStringList pictures = QDir(folder).entryList({"*.png"});
     QCOMPARE(pictures.size(), 9);
     QImage last;

@@ -76,8 +76,13 @@ QString SessionOnScreen::write(const QString& name, const QByteArray& text) cons
 
 void SessionOnScreen::start()
 {
+    start(Scene);
+}
+
+void SessionOnScreen::start(const QByteArray& scene)
+{
     HostSettings().clear();
-    write(QStringLiteral("scene.iv"), Scene);
+    write(QStringLiteral("scene.iv"), scene);
     restart();
 }
 
@@ -88,14 +93,19 @@ void SessionOnScreen::restart()
     m_window->loadPlugins(HostPluginLoader::pluginDirectory());
     m_window->restoreLayout();
     m_window->show();
+    waitUntilActive();
+    QVERIFY(m_window->openFile(sceneFile()));
+    QTRY_VERIFY_WITH_TIMEOUT(AppRobot::isDrawn(AppRobot::picture(m_window->view())), 20000);
+    QTest::qWait(300);
+}
+
+void SessionOnScreen::waitUntilActive() const
+{
     const auto isActive = [this] {
         m_window->activateWindow(); // a busy window manager may have missed the first request
         return m_window->isActiveWindow();
     };
     QTRY_VERIFY_WITH_TIMEOUT(isActive(), 20000);
-    QVERIFY(m_window->openFile(sceneFile()));
-    QTRY_VERIFY_WITH_TIMEOUT(AppRobot::isDrawn(AppRobot::picture(m_window->view())), 20000);
-    QTest::qWait(300);
 }
 
 void SessionOnScreen::selectNode(const char* name) const

@@ -19,9 +19,14 @@ public:
     SessionOnScreen(const SessionOnScreen&) = delete;
     SessionOnScreen& operator=(const SessionOnScreen&) = delete;
 
-    /** Shows the window on the scene and waits until it is drawn. */
+    /** Shows the window on a scene of a ball, a box and a hat and waits until it is drawn. */
     void start();
+    /** The same on another scene. */
+    void start(const QByteArray& scene);
     void restart();
+    /** Until the window has the keyboard: after a dialog it is the window manager that gives it
+     * back. */
+    void waitUntilActive() const;
     void finish() { m_window.reset(); }
 
     AppWindow& window() const { return *m_window; }

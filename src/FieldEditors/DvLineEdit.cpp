@@ -1,6 +1,8 @@
 #include "FieldEditors/DvLineEdit.h"
 
 #include <QKeyEvent>
+#include <QStyle>
+#include <QStyleOptionFrame>
 
 #include <limits>
 
@@ -18,8 +20,21 @@ void DvLineEdit::showText(const QString& text)
         return;
     // A text that stands there already is not laid out again.
     if (isModified() || text != this->text())
-        setText(text);
+        replaceText(text);
     setCursorPosition(0);
+}
+
+void DvLineEdit::replaceText(const QString& text)
+{
+    // Qt would paint the whole line, of which the frame takes longest, at every step of a drag.
+    const bool wasDisabled = testAttribute(Qt::WA_UpdatesDisabled);
+    setAttribute(Qt::WA_UpdatesDisabled);
+    setText(text);
+    setCursorPosition(0);
+    setAttribute(Qt::WA_UpdatesDisabled, wasDisabled);
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    update(style()->subElementRect(QStyle::SE_LineEditContents, &option, this));
 }
 
 void DvLineEdit::keyPressEvent(QKeyEvent* event)

@@ -31,5 +31,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void replaceText(const QString& text);
+
     QString m_shownText;
 };

@@ -3,7 +3,9 @@
 #include "tests/support/TestMain.h"
 
 #include <QFocusEvent>
+#include <QImage>
 #include <QMainWindow>
+#include <QPaintEvent>
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
@@ -41,6 +43,35 @@ struct Window
     QSignalSpy reverts{line, SIGNAL(revertRequested())};
 };
 
+/** What is painted of a widget from now on. */
+class PaintedRegion : public QObject
+{
+public:
+    explicit PaintedRegion(QWidget& widget) { widget.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            region += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+
+    QRegion region;
+};
+
+/** Where two pictures of one size differ. */
+QRegion difference(const QImage& one, const QImage& other)
+{
+    QRegion region;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            if (one.pixel(x, y) != other.pixel(x, y))
+                region += QRect(x, y, 1, 1);
+        }
+    }
+    return region;
+}
+
 void addReasons()
 {
     QTest::addColumn<int>("reason");
@@ -61,6 +92,7 @@ private slots:
     void aShownTextIsTheFieldsAndSeenFromItsStart();
     void whatTheUserTypesIsNotTheFields();
     void aTextSetByAnythingElseIsNotTheFields();
+    void aNewTextIsPaintedWithoutTheFrameAroundIt();
 
     void escapeAsksForTheFieldsTextWhileATextIsTyped();
     void escapeIsLeftToTheParentWhileThereIsNothingToRevert();
@@ -117,6 +149,25 @@ void tst_DvLineEdit::aTextSetByAnythingElseIsNotTheFields()
     line.showText(QStringLiteral("1.5"));
     line.setText(QStringLiteral("2"));
     QVERIFY(!line.showsFieldValue());
+}
+
+void tst_DvLineEdit::aNewTextIsPaintedWithoutTheFrameAroundIt()
+{
+    Window w;
+    w.other->setFocus();
+    w.line->showText(QStringLiteral("1.500000"));
+    QVERIFY(QTest::qWaitForWindowExposed(&w.window));
+    const QImage before = w.line->grab().toImage();
+    PaintedRegion painted(*w.line);
+    w.line->showText(QStringLiteral("-8888.75"));
+    QTRY_VERIFY(!painted.region.isEmpty());
+    const QRegion repainted = painted.region;
+    const QRegion changed = difference(before, w.line->grab().toImage());
+    QVERIFY(!changed.isEmpty());
+    QVERIFY(changed.subtracted(repainted).isEmpty());
+    QVERIFY(!repainted.intersects(QRect(0, 0, w.line->width(), 1)));
+    QVERIFY(!repainted.intersects(QRect(0, 0, 1, w.line->height())));
+    QVERIFY(w.line->updatesEnabled());
 }
 
 void tst_DvLineEdit::escapeAsksForTheFieldsTextWhileATextIsTyped()

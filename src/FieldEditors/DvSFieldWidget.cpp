@@ -8,7 +8,7 @@
 #include "FieldEditors/TvkFieldIgnoredCommand.h"
 #include "FieldEditors/TvkSFSetValueCommand.h"
 
-#include <Inventor/fields/SoField.h>
+#include <Inventor/fields/SoSField.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -29,6 +29,8 @@ int constant(const char* name)
 DvSFieldWidget::DvSFieldWidget(int sliderKind, const QString& objectName)
     : m_slider(DvSlider::create(sliderKind, 0, *this, frame(), 0, 1))
 {
+    // Any single-value field, unless a type says otherwise.
+    m_handledType = SoSField::getClassTypeId();
     setObjectName(objectName);
     m_name = objectName.toUtf8().constData();
     frame()->setObjectName(objectName);

@@ -38,8 +38,9 @@ void TvkFieldEditors::activate()
     TvkEditor::activate();
     SoTypedObject* const object = getEditedObject();
     SoField* const field = object ? object->getField() : nullptr;
-    // Without its sensor the editor would not hear of the field's death.
-    if (!field || !m_sensor)
+    // Without its sensor the editor would not hear of the field's death; and a field of another
+    // class must not be read as one of the handled type.
+    if (!field || !m_sensor || !field->isOfType(m_handledType))
         return;
     setField(field);
     refresh();

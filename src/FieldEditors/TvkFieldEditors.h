@@ -29,8 +29,8 @@ public:
     ~TvkFieldEditors() override;
 
     /**
-     * Takes the edited object if it is a field: sets it, refreshes, shows. Else does nothing, as
-     * before createWidgets() and after releaseWidgets().
+     * Takes the edited object if it is a field of the handled type: sets it, refreshes, shows. Else
+     * does nothing, as before createWidgets() and after releaseWidgets().
      */
     void activate() override;
     /** Lets go of the field and hides. */

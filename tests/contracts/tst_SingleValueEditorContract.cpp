@@ -4,6 +4,8 @@
 #include "tests/support/TestMain.h"
 #include "tests/support/WheelTurn.h"
 
+#include <Inventor/fields/SoMFFloat.h>
+
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
 #include <QLabel>
@@ -150,6 +152,26 @@ private slots:
         EditorRig rig(*editor, r.field);
         QCOMPARE(rig.find<QLabel>("m_label")->text(),
                  QStringLiteral("<p align=\"center\">%1</p>").arg(QLatin1String(r.label)));
+    }
+
+    void aFieldOfAnotherTypeIsNotTaken_data() { addRows(); }
+    void aFieldOfAnotherTypeIsNotTaken()
+    {
+        const EditorRow& r = fetchRow();
+        RecordingHost host;
+        const auto editor = r.make();
+        editor->createWidgets();
+        SoMFFloat numbers;
+        numbers.setValue(2.5F);
+        SoTypedObject object(&numbers);
+        editor->setEditedObject(&object);
+        editor->activate();
+        QVERIFY(!editor->getWidget()->isVisible());
+        editor->setCommandValue();
+        editor->deactivate();
+        QCOMPARE(numbers.getNum(), 1);
+        QCOMPARE(numbers[0], 2.5F);
+        QCOMPARE(host.services.count(), 0);
     }
 
     void showsTheFieldAndPushesNothing_data() { addRows(); }

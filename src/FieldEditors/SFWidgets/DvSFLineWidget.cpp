@@ -14,9 +14,7 @@
 
 DvSFLineWidget::DvSFLineWidget(const QString& objectName)
     : DvSFieldWidget(DvSlider::NoKind, objectName)
-{
-    m_handledType = SoSField::getClassTypeId();
-}
+{}
 
 void DvSFLineWidget::buildEditor(QHBoxLayout& editLayout)
 {

@@ -63,6 +63,9 @@ QImage DvSFImageLabel::toQImage(const SoSFImage& image)
     if (!pixels || size[0] <= 0 || size[1] <= 0 || components < 1 || components > 4)
         return {};
     QImage picture(size[0], size[1], formatFor(components));
+    // Qt has no pictures of more than 2 GB; a field may hold one.
+    if (picture.isNull())
+        return {};
     if (components == 1)
         setGreyPalette(picture);
     const auto bytesPerRow = static_cast<std::ptrdiff_t>(size[0]) * components;

@@ -1,4 +1,4 @@
-#include "tests/support/SliderRig.h"
+#include "tests/support/FirstEntries.h"
 #include "tests/support/TestMain.h"
 
 #include <limits>
@@ -7,16 +7,8 @@ namespace {
 
 using Int = std::numeric_limits<int>;
 
-struct Entry
-{
-    const char* typed;
-    int value;
-    const char* shown;
-    int base;
-};
-
 /** The first text that is entered into a 32-bit slider at 7. */
-const Entry s_firstEntries[] = {
+const FirstEntry s_firstEntries[] = {
     {"0x1F", 31, "1F", 16},
     {"0x1f", 31, "1F", 16},
     {"0x0", 0, "0", 16},
@@ -44,14 +36,6 @@ const Entry s_firstEntries[] = {
     {"0777777777777", Int::max(), "17777777777", 8},
 };
 
-void addEntries()
-{
-    QTest::addColumn<int>("entry");
-    int number = 0;
-    for (const Entry& entry : s_firstEntries)
-        QTest::addRow("\"%s\"", entry.typed) << number++;
-}
-
 } // namespace
 
 /** The first text that is entered says in which base a slider shows its value from then on. */
@@ -60,7 +44,7 @@ class tst_DvIntSliderBases : public QObject
     Q_OBJECT
 
 private slots:
-    void theFirstTextAnnouncesTheBase_data() { addEntries(); }
+    void theFirstTextAnnouncesTheBase_data() { FirstEntry::addRows(s_firstEntries); }
     void theFirstTextAnnouncesTheBase();
     void keepsTheBaseOfTheFirstText();
     void keepsANumberBelowZeroReadableInEveryBase();
@@ -71,16 +55,7 @@ private slots:
 
 void tst_DvIntSliderBases::theFirstTextAnnouncesTheBase()
 {
-    QFETCH(int, entry);
-    const Entry& e = s_firstEntries[entry];
-    const SliderRig rig(DvSlider::Int32Kind, {0, 100, 7});
-    rig.enter(QString::fromLatin1(e.typed));
-    QCOMPARE(rig.integer().value(), e.value);
-    QCOMPARE(rig.integer().base(), e.base);
-    QCOMPARE(rig.line->text(), QString::fromLatin1(e.shown));
-    QCOMPARE(rig.thumb->value(), e.value);
-    QCOMPARE(rig.slider->valueText(), QString::number(e.value));
-    QCOMPARE(rig.calls, QStringList(QStringLiteral("commit %1").arg(e.value)));
+    FirstEntry::fetchRow(s_firstEntries).check<DvIntSlider>(DvSlider::Int32Kind);
 }
 
 void tst_DvIntSliderBases::keepsTheBaseOfTheFirstText()

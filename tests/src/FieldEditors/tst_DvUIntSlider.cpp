@@ -1,4 +1,4 @@
-#include "tests/support/SliderRig.h"
+#include "tests/support/FirstEntries.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/UserLanguage.h"
 
@@ -13,16 +13,8 @@ using Int = std::numeric_limits<int>;
 constexpr int s_uint32 = DvSlider::UInt32Kind;
 constexpr int s_ushort = DvSlider::UShortKind;
 
-struct Entry
-{
-    const char* typed;
-    unsigned value;
-    const char* shown;
-    int base;
-};
-
 /** The first text that is entered into a 32-bit slider at 7. */
-const Entry s_firstEntries[] = {
+const FirstEntry s_firstEntries[] = {
     {"0x1F", 31, "1F", 16},
     {"0x1f", 31, "1F", 16},
     {"017", 15, "17", 8},
@@ -50,14 +42,6 @@ const Entry s_firstEntries[] = {
     {"1.5", 7, "7", 10},
 };
 
-void addEntries()
-{
-    QTest::addColumn<int>("entry");
-    int number = 0;
-    for (const Entry& entry : s_firstEntries)
-        QTest::addRow("\"%s\"", entry.typed) << number++;
-}
-
 } // namespace
 
 class tst_DvUIntSlider : public QObject
@@ -65,7 +49,7 @@ class tst_DvUIntSlider : public QObject
     Q_OBJECT
 
 private slots:
-    void theFirstTextAnnouncesTheBase_data() { addEntries(); }
+    void theFirstTextAnnouncesTheBase_data() { FirstEntry::addRows(s_firstEntries); }
     void theFirstTextAnnouncesTheBase();
     void keepsTheBaseOfTheFirstText();
     void keepsTheValueForATextThatIsNoNumber();
@@ -85,15 +69,7 @@ private slots:
 
 void tst_DvUIntSlider::theFirstTextAnnouncesTheBase()
 {
-    QFETCH(int, entry);
-    const Entry& e = s_firstEntries[entry];
-    const SliderRig rig(s_uint32, {0, 100, 7});
-    rig.enter(QString::fromLatin1(e.typed));
-    QCOMPARE(rig.natural().value(), e.value);
-    QCOMPARE(rig.natural().base(), e.base);
-    QCOMPARE(rig.line->text(), QString::fromLatin1(e.shown));
-    QCOMPARE(rig.slider->valueText(), QString::number(e.value));
-    QCOMPARE(rig.calls, QStringList(QStringLiteral("commit %1").arg(e.value)));
+    FirstEntry::fetchRow(s_firstEntries).check<DvUIntSlider>(s_uint32);
 }
 
 void tst_DvUIntSlider::keepsTheBaseOfTheFirstText()

@@ -1,12 +1,11 @@
-#include "tests/support/EditorRig.h"
 #include "tests/support/FieldBits.h"
+#include "tests/support/LineChecks.h"
 #include "tests/support/TestMain.h"
 
 #include "FieldEditors/SFWidgets/DvSFPlaneWidget.h"
 #include "FieldEditors/SFWidgets/DvSFRotationWidget.h"
 #include "FieldEditors/SFWidgets/DvSFVec4fWidget.h"
 
-#include <QDoubleValidator>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -111,14 +110,7 @@ private slots:
     {
         const auto editor = fetchEditor();
         EditorRig rig(*editor, fetchField());
-        for (int i = 0; i < 4; ++i) {
-            const auto* const validator =
-                qobject_cast<const QDoubleValidator*>(line(rig, i)->validator());
-            QVERIFY(validator);
-            QCOMPARE(validator->bottom(), -3.4028234663852886e+38);
-            QCOMPARE(validator->top(), 3.4028234663852886e+38);
-            QCOMPARE(validator->decimals(), 6);
-        }
+        LineChecks::takeSinglePrecisionNumbers(rig, "SF4fine", 4);
     }
 
     void leavingAnEditedLineCommitsOnce_data() { addKinds(); }

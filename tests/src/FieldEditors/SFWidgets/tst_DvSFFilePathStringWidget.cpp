@@ -1,4 +1,4 @@
-#include "tests/support/EditorRig.h"
+#include "tests/support/LineChecks.h"
 #include "tests/support/ModalDialog.h"
 #include "tests/support/TestMain.h"
 
@@ -135,6 +135,13 @@ private slots:
         QTest::mouseClick(button(rig), Qt::LeftButton);
         QCOMPARE(path(rig), QByteArray("typed.iv"));
         QCOMPARE(rig.host.services.count(), 1);
+    }
+
+    void keepsTheNewPathWhenUndone()
+    {
+        DvSFFilePathStringWidget editor;
+        EditorRig rig(editor, "sfFilePathString");
+        LineChecks::keepsTheNewValueWhenUndone(rig, line(rig), QStringLiteral("new.iv"));
     }
 
     void theDialogIsCalledOpenFileAndBelongsToTheFrame()

@@ -1,4 +1,4 @@
-#include "tests/support/EditorRig.h"
+#include "tests/support/LineChecks.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/UserInput.h"
 
@@ -107,6 +107,13 @@ private slots:
         show(rig, "between");
         rig.host.services.redo(0);
         QCOMPARE(bytes(rig), committed);
+    }
+
+    void keepsTheNewTextWhenUndone()
+    {
+        DvSFStringWidget editor;
+        EditorRig rig(editor, "sfString");
+        LineChecks::keepsTheNewValueWhenUndone(rig, line(rig), QStringLiteral("after"));
     }
 
     void theLineBreaksStayWhenAnotherPartIsEdited()

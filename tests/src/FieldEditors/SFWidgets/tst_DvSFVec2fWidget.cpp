@@ -1,9 +1,8 @@
-#include "tests/support/EditorRig.h"
+#include "tests/support/LineChecks.h"
 #include "tests/support/TestMain.h"
 
 #include "FieldEditors/SFWidgets/DvSFVec2fWidget.h"
 
-#include <QDoubleValidator>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -46,14 +45,7 @@ private slots:
     {
         DvSFVec2fWidget editor;
         EditorRig rig(editor, "sfVec2f");
-        for (int i = 0; i < 2; ++i) {
-            const auto* const validator =
-                qobject_cast<const QDoubleValidator*>(line(rig, i)->validator());
-            QVERIFY(validator);
-            QCOMPARE(validator->bottom(), -3.4028234663852886e+38);
-            QCOMPARE(validator->top(), 3.4028234663852886e+38);
-            QCOMPARE(validator->decimals(), 6);
-        }
+        LineChecks::takeSinglePrecisionNumbers(rig, "SFVec2fLine", 2);
     }
 
     void anEditOfOneComponentLeavesTheOtherToTheLastBit()
@@ -73,10 +65,7 @@ private slots:
     {
         DvSFVec2fWidget editor;
         EditorRig rig(editor, "sfVec2f");
-        EditorRig::type(line(rig, 1), QStringLiteral("5"));
-        rig.leave();
-        QCOMPARE(rig.text(), QStringLiteral("1 5"));
-        QCOMPARE(rig.host.services.count(), 1);
+        LineChecks::leavingCommitsOnce(rig, line(rig, 1), "5", "1 5");
     }
 
     void anEditCarriedFromOneLineToTheOtherMakesTwoCommands()
@@ -95,19 +84,21 @@ private slots:
     {
         DvSFVec2fWidget editor;
         EditorRig rig(editor, "sfVec2f");
-        line(rig, 0)->setText(QStringLiteral("wood"));
-        editor.applyChanges();
-        QCOMPARE(rig.text(), QStringLiteral("0 2"));
+        LineChecks::noNumberCountsAsZero(rig, line(rig, 0), "0 2");
     }
 
     void aHalfTypedNumberThatIsLeftIsTakenBack()
     {
         DvSFVec2fWidget editor;
         EditorRig rig(editor, "sfVec2f");
-        EditorRig::type(line(rig, 0), QStringLiteral("-"));
-        rig.leave();
-        QCOMPARE(line(rig, 0)->text(), QStringLiteral("1"));
-        QCOMPARE(rig.host.services.count(), 0);
+        LineChecks::halfANumberIsTakenBack(rig, line(rig, 0));
+    }
+
+    void keepsTheNewValueWhenUndone()
+    {
+        DvSFVec2fWidget editor;
+        EditorRig rig(editor, "sfVec2f");
+        LineChecks::keepsTheNewValueWhenUndone(rig, line(rig, 1), "8");
     }
 };
 

@@ -1,7 +1,6 @@
-#include "tests/support/EditorRig.h"
+#include "tests/support/LineChecks.h"
 #include "tests/support/TestMain.h"
 
-#include "FieldEditors/DvRealValidator.h"
 #include "FieldEditors/SFWidgets/DvSFVec3fWidget.h"
 
 #include <QGridLayout>
@@ -50,14 +49,7 @@ private slots:
     {
         DvSFVec3fWidget editor;
         EditorRig rig(editor, "sfVec3f");
-        for (int i = 0; i < 3; ++i) {
-            const auto* const validator =
-                qobject_cast<const QDoubleValidator*>(line(rig, i)->validator());
-            QVERIFY(validator);
-            QCOMPARE(validator->bottom(), -3.4028234663852886e+38);
-            QCOMPARE(validator->top(), 3.4028234663852886e+38);
-            QCOMPARE(validator->decimals(), 6);
-        }
+        LineChecks::takeSinglePrecisionNumbers(rig, "SFVec3fLine", 3);
     }
 
     void typingAndReturnCommitsOnce()
@@ -79,10 +71,7 @@ private slots:
     {
         DvSFVec3fWidget editor;
         EditorRig rig(editor, "sfVec3f");
-        EditorRig::type(line(rig, 0), "-7");
-        rig.leave();
-        QCOMPARE(rig.text(), QStringLiteral("-7 2 3"));
-        QCOMPARE(rig.host.services.count(), 1);
+        LineChecks::leavingCommitsOnce(rig, line(rig, 0), "-7", "-7 2 3");
     }
 
     void leavingAnUneditedLineCommitsNothing()
@@ -145,20 +134,14 @@ private slots:
     {
         DvSFVec3fWidget editor;
         EditorRig rig(editor, "sfVec3f");
-        line(rig, 1)->setText("nonsense");
-        editor.applyChanges();
-        QCOMPARE(rig.text(), QStringLiteral("1 0 3"));
+        LineChecks::noNumberCountsAsZero(rig, line(rig, 1), "1 0 3");
     }
 
     void leavingAHalfTypedNumberShowsTheFieldAgain()
     {
         DvSFVec3fWidget editor;
         EditorRig rig(editor, "sfVec3f");
-        EditorRig::type(line(rig, 1), "-");
-        rig.leave();
-        QCOMPARE(line(rig, 1)->text(), QStringLiteral("2"));
-        QCOMPARE(rig.text(), QStringLiteral("1 2 3"));
-        QCOMPARE(rig.host.services.count(), 0);
+        LineChecks::halfANumberIsTakenBack(rig, line(rig, 1));
     }
 
     void escapeShowsTheFieldAgain()
@@ -176,12 +159,7 @@ private slots:
     {
         DvSFVec3fWidget editor;
         EditorRig rig(editor, "sfVec3f");
-        EditorRig::type(line(rig, 0), "8");
-        QTest::keyClick(line(rig, 0), Qt::Key_Return);
-        rig.host.services.undo(0);
-        QCOMPARE(rig.text(), QStringLiteral("8 2 3"));
-        rig.host.services.redo(0);
-        QCOMPARE(rig.text(), QStringLiteral("8 2 3"));
+        LineChecks::keepsTheNewValueWhenUndone(rig, line(rig, 0), "8");
     }
 
     void theCursorStandsAtTheStartAfterARefresh()

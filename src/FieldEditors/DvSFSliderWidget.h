@@ -44,6 +44,8 @@ public:
             return;
         slider->takePendingEdit();
         Number::write(*field, *slider);
+        // Kept on purpose: of the steps of a drag only the first has the text of before, which its
+        // command empties.
         pushSetValue(slider->oldValueText());
     }
 
@@ -83,7 +85,8 @@ private:
             slider->setRange(static_cast<Value>(minimum), static_cast<Value>(maximum), bounded);
     }
 
-    /** A value outside of the range stretches it, also a strict one. */
+    /** Kept on purpose: a value outside of the range stretches it, and a strict one stays strict.
+     */
     static void showValue(Slider& slider, Value value)
     {
         if (value > slider.maximum())

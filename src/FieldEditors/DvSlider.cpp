@@ -202,6 +202,8 @@ void DvSlider::valueChangeSlot(int newValue)
     m_inSliderCallback = true;
     updateValueFromPosition(newValue);
     updateText();
+    // Kept on purpose: while steps do not commit, a key or the wheel does not either, having no
+    // release.
     if (m_liveNotify)
         commit();
     m_inSliderCallback = false;
@@ -215,5 +217,6 @@ void DvSlider::finishCallback()
         updateValueFromPosition(m_slider->value());
         updateText();
     }
+    // Kept on purpose: the release commits once more, also after steps that have committed.
     commit();
 }

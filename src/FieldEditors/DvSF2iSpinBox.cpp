@@ -9,7 +9,7 @@
 #include <algorithm>
 
 namespace {
-constexpr int s_leastWidth = 4; ///< in heights of the font
+constexpr int s_leastWidth = 3; ///< in heights of the font
 }
 
 DvSF2iSpinBox::DvSF2iSpinBox(int minimum, int maximum, const QString& objectName)

@@ -21,6 +21,7 @@
 
 #include <array>
 #include <charconv>
+#include <memory>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -214,6 +215,25 @@ bool getNumber(SoField* field, SbString& text)
            getNumberIf<SoSFUShort>(field, text);
 }
 
+/**
+ * Whether Coin can write the field: it looks into the container of the field that the values come
+ * from, and crashes where that has none.
+ */
+bool canBeWritten(const SoField& field)
+{
+    SoField* master = nullptr;
+    return !field.isConnected() || !field.getConnectedField(master) || master->getContainer();
+}
+
+/** The field's values in a field that is not connected. */
+std::unique_ptr<SoField> unconnectedCopy(const SoField& field)
+{
+    field.evaluate();
+    std::unique_ptr<SoField> copy(static_cast<SoField*>(field.getTypeId().createInstance()));
+    copy->copyFrom(field);
+    return copy;
+}
+
 bool touchedUnless(SbBool taken, SoField* field)
 {
     if (!taken)
@@ -225,14 +245,22 @@ bool touchedUnless(SbBool taken, SoField* field)
 
 void SoFieldText::get(SoField* field, SbString& text)
 {
-    if (!getNumber(field, text))
+    if (getNumber(field, text))
+        return;
+    if (canBeWritten(*field))
         field->get(text);
+    else
+        unconnectedCopy(*field)->get(text);
 }
 
 void SoFieldText::get1(SoMField* field, int row, SbString& text)
 {
-    if (!SoRealText::get1(field, row, text))
+    if (SoRealText::get1(field, row, text))
+        return;
+    if (canBeWritten(*field))
         field->get1(row, text);
+    else
+        static_cast<SoMField&>(*unconnectedCopy(*field)).get1(row, text);
 }
 
 SbBool SoFieldText::set(SoField* field, const SbString& text)

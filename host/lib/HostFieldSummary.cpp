@@ -2,6 +2,7 @@
 
 #include "lib/HostFullPath.h"
 #include "lib/HostText.h"
+#include "scenegraph/SoFieldText.h"
 
 #include <Inventor/SbString.h>
 #include <Inventor/SoPath.h>
@@ -88,7 +89,7 @@ QString valueText(SoMField& field, int row)
     if (const auto* const engines = as<SoMFEngine>(field))
         return HostText::title((*engines)[row]);
     SbString text;
-    field.get1(row, text);
+    SoFieldText::get1(&field, row, text);
     const QString line = oneLine(text);
     const auto* const numbers = as<SoMFEnum>(field);
     return line.isEmpty() && numbers ? QString::number((*numbers)[row]) : line;

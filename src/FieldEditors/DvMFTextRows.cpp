@@ -2,6 +2,7 @@
 
 #include "FieldEditors/DvFieldText.h"
 #include "FieldEditors/DvMFieldTable.h"
+#include "scenegraph/SoFieldText.h"
 #include "scenegraph/SoMFieldRows.h"
 
 DvMFTextRows::DvMFTextRows(const char* typeName, int valueKind, const QString& objectName)
@@ -13,7 +14,7 @@ QString DvMFTextRows::cellText(int row, int column) const
     if (column != 0 || !isRow(row))
         return {};
     SbString text;
-    field()->get1(row, text);
+    SoFieldText::get1(field(), row, text);
     return DvFieldText::toQString(text);
 }
 

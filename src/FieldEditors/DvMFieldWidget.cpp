@@ -10,6 +10,7 @@
 #include "FieldEditors/DvSlider.h"
 #include "FieldEditors/TvkFieldIgnoredCommand.h"
 #include "FieldEditors/TvkMFSetValueCommand.h"
+#include "scenegraph/SoFieldText.h"
 
 #include <Inventor/engines/SoEngine.h>
 #include <Inventor/engines/SoEngineOutput.h>
@@ -231,7 +232,7 @@ QByteArray DvMFieldWidget::rowValue(int row) const
     if (!isRow(row))
         return {};
     SbString text;
-    m_field->get1(row, text);
+    SoFieldText::get1(m_field, row, text);
     return {text.getString(), text.getLength()};
 }
 

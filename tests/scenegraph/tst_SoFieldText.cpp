@@ -52,7 +52,23 @@ private slots:
     void rowsOfNumbersComeBackToTheLastBit();
     void aTextOfAnotherLengthIsNoVector_data();
     void aTextOfAnotherLengthIsNoVector();
+    void aFieldOfAFieldWithoutAContainerIsRead();
 };
+
+void tst_SoFieldText::aFieldOfAFieldWithoutAContainerIsRead()
+{
+    SoMFInt32 master;
+    master.set("[1, 2, 3]");
+    SoMFString slave;
+    QVERIFY(slave.connectFrom(&master));
+    SbString text;
+    SoFieldText::get1(&slave, 2, text);
+    QCOMPARE(text.getString(), "\"3\"");
+    master.set1Value(0, 7);
+    SoFieldText::get(&slave, text);
+    QCOMPARE(QByteArray(text.getString()).simplified(), QByteArray("[ \"7\", \"2\", \"3\" ]"));
+    QVERIFY(slave.isConnected());
+}
 
 void tst_SoFieldText::aNullNodeComesBack()
 {

@@ -3,6 +3,7 @@
 #include "FieldEditors/DvFieldText.h"
 #include "FieldEditors/DvMFieldTable.h"
 #include "FieldEditors/DvValueViews.h"
+#include "scenegraph/SoFieldText.h"
 
 #include <Inventor/fields/SoMFMatrix.h>
 
@@ -18,7 +19,7 @@ QString DvMFMatrixWidget::cellText(int row, int column) const
     if (column != 0 || !isRow(row))
         return {};
     SbString text;
-    field()->get1(row, text);
+    SoFieldText::get1(field(), row, text);
     return DvFieldText::toQString(text).simplified();
 }
 

@@ -34,13 +34,30 @@ QColor DvMFColorTable::rowColor(int row) const
 
 void DvMFColorTable::getColorFromEditor(int row, int col)
 {
-    if (col != 0 || owner().isReadOnly())
+    if (col != 0 || m_dialog || owner().isReadOnly() || !owner().isRow(row))
         return;
-    const unsigned edited = owner().fieldNumber();
-    const QColor chosen = QColorDialog::getColor(rowColor(row), this, tr("color dialog"));
-    // While the dialog was open, another field may have been selected, or this one may have died.
-    if (chosen.isValid() && edited == owner().fieldNumber() && owner().isRow(row))
-        m_colorOwner.setColor(row, chosen);
+    m_dialogRow = row;
+    m_dialogColor = rowColor(row);
+    // Waited for in no loop of its own: the editor may die meanwhile, and this table with it.
+    m_dialog = new QColorDialog(m_dialogColor, this);
+    m_dialog->setAttribute(Qt::WA_DeleteOnClose);
+    m_dialog->setWindowTitle(tr("color dialog"));
+    m_dialog->open(this, SLOT(s_colorSelected(QColor)));
+}
+
+void DvMFColorTable::s_colorSelected(const QColor& color)
+{
+    // The row may have gone while the dialog was open. A colour that was only confirmed is no other
+    // one, and would round the row's components.
+    if (color.isValid() && color.rgb() != m_dialogColor.rgb() && !owner().isReadOnly() &&
+        owner().isRow(m_dialogRow))
+        m_colorOwner.setColor(m_dialogRow, color);
+}
+
+void DvMFColorTable::closeDialog()
+{
+    if (m_dialog)
+        m_dialog->reject();
 }
 
 void DvMFColorTableItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -4,6 +4,7 @@
 #include "FieldEditors/DvMFieldTableItemDelegate.h"
 
 #include <QColor>
+#include <QPointer>
 
 /** Paints a cell filled with the colour of its row. */
 class DvMFColorTableItemDelegate final : public DvMFieldTableItemDelegate
@@ -16,6 +17,8 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 };
+
+class QColorDialog;
 
 /** Takes the colour that the user has chosen for a row. */
 class DvColorOwner
@@ -39,10 +42,18 @@ public:
 
     /** The colour that the three cells of a row make. */
     QColor rowColor(int row) const;
+    /** Closes the colour dialog, if it is open, without a choice: its field is gone. */
+    void closeDialog();
 
 public slots:
     void getColorFromEditor(int row, int col);
 
+private slots:
+    void s_colorSelected(const QColor& color);
+
 private:
     DvColorOwner& m_colorOwner;
+    QPointer<QColorDialog> m_dialog; ///< while it is open
+    int m_dialogRow = -1;
+    QColor m_dialogColor; ///< that the dialog began with
 };

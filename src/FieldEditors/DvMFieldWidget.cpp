@@ -216,7 +216,6 @@ void DvMFieldWidget::setField(SoField* field)
     if (m_field)
         fieldReleased();
     m_field = accept(field) ? static_cast<SoMField*>(field) : nullptr;
-    ++m_fieldNumber;
     TvkFieldEditors::setField(m_field);
     if (m_field)
         fieldReplaced();

@@ -73,8 +73,6 @@ public:
     AccessButtonPrivate& accessBox() const { return *m_accessBox; }
     DvMFieldTable& table() const { return *m_table; }
     const DvTableForm& form() const { return m_form; }
-    /** Another number for each field that is set: what a dialog began on may be gone at its end. */
-    unsigned fieldNumber() const { return m_fieldNumber; }
     /** The owner of the sliders in the table's cells. */
     DvSliderOwner& sliderOwner() { return *this; }
     /** Why the rows cannot be edited now; empty when they can. */
@@ -114,7 +112,6 @@ private:
 
     const DvTableForm m_form;
     SoMField* m_field = nullptr; ///< not owned
-    unsigned m_fieldNumber = 0;
     QLabel* m_label = nullptr;
     DvMFieldTable* m_table = nullptr;
     QHBoxLayout* m_manageButtonsLayout = nullptr;

@@ -25,6 +25,13 @@ public:
     ModalDialog(const ModalDialog&) = delete;
     ModalDialog& operator=(const ModalDialog&) = delete;
 
+    /** Runs the event loop until no dialog is up, for one that does not hold up who opens it. */
+    static void waitForEnd()
+    {
+        while (QApplication::activeModalWidget())
+            QCoreApplication::processEvents();
+    }
+
     /** Whether there was a dialog to act on. */
     bool wasUp() const { return m_wasUp; }
 

@@ -15,6 +15,11 @@ DvMFieldTable* DvMFColorWidget::newTable()
     return new DvMFColorTable(*this, *this, frame(), "m_table");
 }
 
+void DvMFColorWidget::fieldReleased()
+{
+    static_cast<DvMFColorTable&>(table()).closeDialog();
+}
+
 DvMFColorWidget::Numbers DvMFColorWidget::numbersAt(int row) const
 {
     return DvVec3fView::numbers((*fieldAs<SoMFColor>())[row]);

@@ -15,6 +15,8 @@ public:
 
 protected:
     DvMFieldTable* newTable() override;
+    /** Closes the colour dialog, which was for a row of that field. */
+    void fieldReleased() override;
     // A colour field is no vector field, although its rows look alike.
     Numbers numbersAt(int row) const override;
     void write(int row, const Numbers& numbers) override;

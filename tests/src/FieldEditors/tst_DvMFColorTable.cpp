@@ -7,6 +7,9 @@
 #include <QColorDialog>
 #include <QPainter>
 
+#include <limits>
+#include <memory>
+
 /** Takes no colour. */
 class Nobody final : public DvColorOwner
 {
@@ -27,6 +30,7 @@ private:
     {
         QTest::mouseClick(rig.table().viewport(), Qt::LeftButton, Qt::NoModifier,
                           rig.table().visualItemRect(rig.table().item(row, column)).center());
+        ModalDialog::waitForEnd();
     }
 
     static ModalDialog::Action choose(const QColor& color)
@@ -35,6 +39,13 @@ private:
             static_cast<QColorDialog&>(dialog).setCurrentColor(color);
             dialog.accept();
         };
+    }
+
+    /** What the user does with the dialog when there is nothing left to choose for. */
+    static void chooseInVain(const QPointer<QDialog>& dialog)
+    {
+        if (dialog)
+            choose(Qt::white)(*dialog);
     }
 
 private slots:
@@ -70,6 +81,8 @@ private slots:
         QCOMPARE(colorTable(rig).rowColor(0), QColor(255, 0, 127, 255));
         rig.field->set1(0, "2 -1 0.25");
         QCOMPARE(colorTable(rig).rowColor(0), QColor(255, 0, 63, 255));
+        rig.node->mfColor.set1Value(0, 7.0F, -3.0F, std::numeric_limits<float>::quiet_NaN());
+        QCOMPARE(colorTable(rig).rowColor(0), QColor(255, 0, 0, 255));
     }
 
     void theDialogStartsWithTheRowsColour()
@@ -119,15 +132,109 @@ private slots:
     {
         DvMFColorWidget editor;
         TableRig rig(editor, "mfColor");
+        bool isUp = true;
         const ModalDialog dialog([&](QDialog& opened) {
+            const QPointer<QDialog> up(&opened);
             rig.killNode();
-            choose(Qt::white)(opened);
+            isUp = up && up->isVisible();
+            chooseInVain(up);
         });
         clickCell(rig, 1, 0);
         QVERIFY(dialog.wasUp());
+        // It would be disabled with the editor, and hold up the user for ever.
+        QVERIFY(!isUp);
         QCOMPARE(rig.host.services.count(), 0);
         rig.reviveNode("mfColor");
         QCOMPARE(rig.rows().at(1), QByteArray("0 1 0.5"));
+    }
+
+    void anotherFieldGetsNothingFromTheDialog()
+    {
+        DvMFColorWidget editor;
+        TableRig rig(editor, "mfColor");
+        auto* const second = new SoEveryField;
+        second->ref();
+        const QList<QByteArray> before = rig.rows();
+        const ModalDialog dialog([&](QDialog& opened) {
+            const QPointer<QDialog> up(&opened);
+            rig.edit(second->mfColor);
+            chooseInVain(up);
+        });
+        clickCell(rig, 1, 0);
+        QVERIFY(dialog.wasUp());
+        QCOMPARE(rig.rows(), before);
+        QCOMPARE(rowTextsOf(rig.node->mfColor).at(1).simplified(), QByteArray("0 1 0.5"));
+        QCOMPARE(rig.host.services.count(), 0);
+        editor.deactivate();
+        second->unref();
+    }
+
+    void theEditorMayDieBehindTheDialog()
+    {
+        auto editor = std::make_unique<DvMFColorWidget>();
+        const TableRig rig(*editor, "mfColor");
+        QPointer<QDialog> opened;
+        const ModalDialog dialog([&](QDialog& up) {
+            opened = &up;
+            editor.reset();
+        });
+        clickCell(rig, 1, 0);
+        QVERIFY(dialog.wasUp());
+        QVERIFY(!opened);
+        QCOMPARE(rig.rows().at(1), QByteArray("0 1 0.5"));
+        QCOMPARE(rig.host.services.count(), 0);
+    }
+
+    void confirmingTheColourThatIsChangesNoBit()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        rig.node->mfColor.set1Value(1, 0.333333343F, 2.0F, 1e-30F);
+        TableRig::runSensors();
+        const ModalDialog dialog([](QDialog& opened) { opened.accept(); });
+        clickCell(rig, 1, 0);
+        QVERIFY(dialog.wasUp());
+        QVERIFY(rig.node->mfColor[1] == SbColor(0.333333343F, 2.0F, 1e-30F));
+        QCOMPARE(rig.host.services.count(), 0);
+    }
+
+    void cancellingTheDialogChangesNothing()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        const QList<QByteArray> before = rig.rows();
+        const ModalDialog dialog([](QDialog& opened) {
+            static_cast<QColorDialog&>(opened).setCurrentColor(Qt::white);
+            opened.reject();
+        });
+        clickCell(rig, 1, 0);
+        QVERIFY(dialog.wasUp());
+        QCOMPARE(rig.rows(), before);
+        QCOMPARE(rig.host.services.count(), 0);
+    }
+
+    void thereIsOneDialogAtATime()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        int dialogs = 0;
+        const ModalDialog dialog([&](QDialog& opened) {
+            colorTable(rig).getColorFromEditor(2, 0);
+            dialogs = rig.table().findChildren<QDialog*>().size();
+            choose(Qt::white)(opened);
+        });
+        clickCell(rig, 1, 0);
+        QCOMPARE(dialogs, 1);
+        QCOMPARE(rig.rows(), (QList<QByteArray>{"1 0 0.5", "1 1 1", "0.25 0.5 0.75"}));
+    }
+
+    void aRowThatDoesNotExistHasNoDialog()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        for (const int row : {-1, 3})
+            colorTable(rig).getColorFromEditor(row, 0);
+        QVERIFY(!QApplication::activeModalWidget());
     }
 
     void aRowThatGoesBehindTheDialogIsNotWritten()
@@ -141,6 +248,24 @@ private slots:
         clickCell(rig, 2, 0);
         QCOMPARE(rig.rows(), QList<QByteArray>{"1 0 0.5"});
         QCOMPARE(rig.host.services.count(), 0);
+    }
+
+    void aFieldThatIsConnectedBehindTheDialogIsNotWritten()
+    {
+        DvMFColorWidget editor;
+        const TableRig rig(editor, "mfColor");
+        auto* const master = new SoEveryField;
+        master->ref();
+        const ModalDialog dialog([&](QDialog& opened) {
+            rig.field->connectFrom(&master->mfColor);
+            choose(Qt::white)(opened);
+        });
+        clickCell(rig, 1, 0);
+        QVERIFY(dialog.wasUp());
+        QCOMPARE(rig.rows().at(1), QByteArray("0 1 0.5"));
+        QCOMPARE(rig.host.services.count(), 0);
+        rig.field->disconnect();
+        master->unref();
     }
 
     void aFieldThatIsConnectedHasNoDialog()

@@ -8,8 +8,6 @@
 
 #include <QColorDialog>
 
-#include <limits>
-
 class tst_DvMFColorWidget : public QObject
 {
     Q_OBJECT
@@ -29,6 +27,7 @@ private:
     {
         const QRect cell = rig.table().visualItemRect(rig.table().item(row, column));
         QTest::mouseClick(rig.table().viewport(), Qt::LeftButton, {}, cell.center());
+        ModalDialog::waitForEnd();
     }
 
     static SbColor color(const TableRig& rig, int row) { return rig.node->mfColor[row]; }
@@ -38,36 +37,6 @@ private slots:
     {
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         SoEveryField::initClass();
-    }
-
-    void aClickIntoTheFirstColumnOpensTheDialogWithTheRowsColor()
-    {
-        DvMFColorWidget editor;
-        const TableRig rig(editor, "mfColor");
-        QColor shown;
-        QString title;
-        QObject* parent = nullptr;
-        const ModalDialog dialog([&](QDialog& up) {
-            shown = static_cast<QColorDialog&>(up).currentColor();
-            title = up.windowTitle();
-            parent = up.parent();
-        });
-        clickCell(rig, 2, 0);
-        QVERIFY(dialog.wasUp());
-        QCOMPARE(shown, QColor(63, 127, 191, 255));
-        QCOMPARE(title, QStringLiteral("color dialog"));
-        QCOMPARE(parent, &rig.table());
-    }
-
-    void theOtherColumnsOpenNone()
-    {
-        DvMFColorWidget editor;
-        const TableRig rig(editor, "mfColor");
-        const ModalDialog dialog([](QDialog&) {});
-        clickCell(rig, 1, 1);
-        clickCell(rig, 1, 2);
-        QTest::qWait(20);
-        QVERIFY(!dialog.wasUp());
     }
 
     void choosingAColorWritesTheRowAndPushesOneCommand()
@@ -91,91 +60,6 @@ private slots:
         clickCell(rig, 0, 0);
         rig.host.services.undo(0);
         QVERIFY(color(rig, 0) == SbColor(0, 0, 1));
-    }
-
-    void cancellingTheDialogChangesNothing()
-    {
-        DvMFColorWidget editor;
-        const TableRig rig(editor, "mfColor");
-        const QList<QByteArray> before = rig.rows();
-        const ModalDialog dialog([](QDialog& up) { up.reject(); });
-        clickCell(rig, 1, 0);
-        QVERIFY(dialog.wasUp());
-        QCOMPARE(rig.rows(), before);
-        QCOMPARE(rig.host.services.count(), 0);
-    }
-
-    void componentsThatAreNoColorOpenTheDialogAllTheSame()
-    {
-        DvMFColorWidget editor;
-        const TableRig rig(editor, "mfColor");
-        rig.node->mfColor.set1Value(0, 7.0F, -3.0F, std::numeric_limits<float>::quiet_NaN());
-        TableRig::runSensors();
-        QColor shown;
-        const ModalDialog dialog(
-            [&](QDialog& up) { shown = static_cast<QColorDialog&>(up).currentColor(); });
-        clickCell(rig, 0, 0);
-        QCOMPARE(shown, QColor(255, 0, 0));
-    }
-
-    void theNodeCanDieWhileTheDialogIsOpen()
-    {
-        DvMFColorWidget editor;
-        TableRig rig(editor, "mfColor");
-        const ModalDialog dialog([&rig](QDialog& up) {
-            rig.killNode();
-            up.accept();
-        });
-        clickCell(rig, 1, 0);
-        QVERIFY(dialog.wasUp());
-        QVERIFY(!editor.field());
-        QCOMPARE(rig.host.services.count(), 0);
-    }
-
-    void aColorChosenForAnotherFieldIsNotWritten()
-    {
-        DvMFColorWidget editor;
-        TableRig rig(editor, "mfColor");
-        auto* const second = new SoEveryField;
-        second->ref();
-        const QList<QByteArray> before = rig.rows();
-        const ModalDialog dialog([&](QDialog& up) {
-            rig.edit(second->mfColor);
-            choosing(Qt::blue)(up);
-        });
-        clickCell(rig, 1, 0);
-        QCOMPARE(rig.rows(), before);
-        QCOMPARE(rig.host.services.count(), 0);
-        second->unref();
-    }
-
-    void aRowThatWentWhileTheDialogWasOpenIsNotWritten()
-    {
-        DvMFColorWidget editor;
-        const TableRig rig(editor, "mfColor");
-        const ModalDialog dialog([&](QDialog& up) {
-            rig.node->mfColor.setNum(1);
-            choosing(Qt::blue)(up);
-        });
-        clickCell(rig, 2, 0);
-        QCOMPARE(rig.rows(), QList<QByteArray>({"1 0 0.5"}));
-        QCOMPARE(rig.host.services.count(), 0);
-    }
-
-    void aConnectedFieldOpensNoDialog()
-    {
-        DvMFColorWidget editor;
-        const TableRig rig(editor, "mfColor");
-        auto* const master = new SoEveryField;
-        master->ref();
-        rig.node->mfColor.connectFrom(&master->mfColor);
-        TableRig::runSensors();
-        const ModalDialog dialog([](QDialog&) {});
-        clickCell(rig, 1, 0);
-        QTest::qWait(20);
-        QVERIFY(!dialog.wasUp());
-        rig.node->mfColor.disconnect();
-        master->unref();
     }
 
     void aCellCanBeEditedToo()
@@ -208,18 +92,6 @@ private slots:
             const QRect cell = table->visualItemRect(table->item(row, 1));
             QCOMPARE(picture.pixelColor(cell.topLeft() + QPoint(2, 2)), table->rowColor(row));
         }
-    }
-
-    void keepsTheBasesNameForATableWithoutOne()
-    {
-        DvMFColorWidget editor;
-        const TableRig rig(editor, "mfColor");
-        class NoOwner final : public DvColorOwner
-        {
-            void setColor(int, const QColor&) override {}
-        } owner;
-        const DvMFColorTable table(editor, owner, nullptr);
-        QCOMPARE(table.objectName(), QStringLiteral("DvMFieldTable"));
     }
 };
 

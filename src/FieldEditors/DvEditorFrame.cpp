@@ -8,3 +8,9 @@ void DvEditorFrame::changeEvent(QEvent* event)
         emit languageChanged();
     QFrame::changeEvent(event);
 }
+
+void DvEditorFrame::enterEvent(QEvent* event)
+{
+    emit entered();
+    QFrame::enterEvent(event);
+}

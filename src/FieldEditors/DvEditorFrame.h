@@ -2,7 +2,10 @@
 
 #include <QFrame>
 
-/** The top widget of a field editor; tells the editor when the user's language has changed. */
+/**
+ * The top widget of a field editor; tells the editor when the user comes to it, and when the
+ * user's language has changed.
+ */
 class DvEditorFrame final : public QFrame
 {
     Q_OBJECT
@@ -12,7 +15,10 @@ public:
 
 signals:
     void languageChanged();
+    /** The mouse has come into the frame. */
+    void entered();
 
 protected:
     void changeEvent(QEvent* event) override;
+    void enterEvent(QEvent* event) override;
 };

@@ -391,9 +391,28 @@ void DvMFieldTable::keyReleaseEvent(QKeyEvent* event)
         QWidget::keyReleaseEvent(event);
         return;
     }
+    endRangeSelection();
+}
+
+void DvMFieldTable::endRangeSelection()
+{
     // Kept on purpose: from the first release on, rows are selected only while Shift is held.
     setSelectionMode(QAbstractItemView::NoSelection);
     m_rangeSelection = false;
+}
+
+void DvMFieldTable::focusInEvent(QFocusEvent* event)
+{
+    m_owner.s_showWhetherEditable();
+    QTableWidget::focusInEvent(event);
+}
+
+void DvMFieldTable::focusOutEvent(QFocusEvent* event)
+{
+    // Whoever has the keys now hears of the release.
+    if (m_rangeSelection)
+        endRangeSelection();
+    QTableWidget::focusOutEvent(event);
 }
 
 void DvMFieldTable::contextMenuEvent(QContextMenuEvent* event)

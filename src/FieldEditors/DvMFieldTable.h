@@ -58,6 +58,8 @@ protected slots:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
@@ -83,6 +85,7 @@ private:
     void followField();
     bool isTypedInto() const;
     void pressRowKey(QKeyEvent* event);
+    void endRangeSelection();
     void moveRow(int from, int to);
     void deleteOneRow();
     void deleteSelectedRange();

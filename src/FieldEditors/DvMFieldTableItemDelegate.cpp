@@ -156,7 +156,7 @@ void DvMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex
     }
 }
 
-void DvMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel*,
+void DvMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                              const QModelIndex& index) const
 {
     DvMFieldTable& table = m_owner.table();
@@ -165,6 +165,10 @@ void DvMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel
     if (cellWidget && cellWidget != editor)
         table.removeCellWidget(index.row(), index.column());
     QLineEdit* const line = lineOf(*editor);
+    if (!line) {
+        QItemDelegate::setModelData(editor, model, index);
+        return;
+    }
     const bool isAcceptable = line->hasAcceptableInput();
     if (auto* const slider = qobject_cast<DvSlider*>(editor)) {
         if (isAcceptable)

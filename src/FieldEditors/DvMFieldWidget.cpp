@@ -52,6 +52,13 @@ void fitToLabel(QHeaderView& header, int column)
     header.resizeSection(column, header.sectionSizeHint(column));
 }
 
+/** Room between the buttons, by the names of its two constants. */
+QSpacerItem* newSpacer(const char* width, const char* height, QSizePolicy::Policy horizontal)
+{
+    return new QSpacerItem(DvLayoutConstants::value(width), DvLayoutConstants::value(height),
+                           horizontal, QSizePolicy::Minimum);
+}
+
 } // namespace
 
 DvMFieldWidget::DvMFieldWidget(DvTableForm form, const QString& objectName)
@@ -65,7 +72,7 @@ DvMFieldWidget::DvMFieldWidget(DvTableForm form, const QString& objectName)
 DvMFieldWidget::~DvMFieldWidget()
 {
     // An open cell would be committed into an editor that is half gone.
-    if (frame() && m_table)
+    if (hasTable())
         m_table->delegate().discardOpenEditor();
     // While the slots of this class can still be called.
     deleteFrame();
@@ -88,6 +95,7 @@ void DvMFieldWidget::createWidgets()
     connectTable();
     languageChange();
     connect(frame(), SIGNAL(languageChanged()), this, SLOT(languageChange()));
+    connect(frame(), SIGNAL(entered()), this, SLOT(s_showWhetherEditable()));
 }
 
 void DvMFieldWidget::buildFrame()
@@ -111,6 +119,11 @@ void DvMFieldWidget::buildFrame()
     // The row has no spacing, and the text would touch the spin box.
     m_labelNumElement->setIndent(m_labelNumElement->fontMetrics().horizontalAdvance(u' '));
     m_table = newTable();
+#ifdef Q_OS_WIN
+    m_table->setMinimumHeight(DvLayoutConstants::value("MFTableMinHeightWin"));
+#else
+    m_table->setMinimumHeight(DvLayoutConstants::value("MFTableMinHeightUnix"));
+#endif
     global->addWidget(m_table, 1);
     buildButtons();
 }
@@ -135,9 +148,12 @@ void DvMFieldWidget::buildButtons()
     m_downButton = DvEditorParts::newButton("m_downButton", DvButtonIcons::rowDown(), frame());
     m_manageButtonsLayout->addWidget(m_addButton);
     m_manageButtonsLayout->addWidget(m_deleteButton);
+    m_manageButtonsLayout->addItem(
+        newSpacer("MFManageAccessSpacerWidth", "MFManageAccessSpacerHeight", QSizePolicy::Fixed));
     m_manageButtonsLayout->addWidget(m_accessBox);
     m_manageButtonsLayout->addWidget(m_labelNumElement);
-    m_manageButtonsLayout->addStretch();
+    m_manageButtonsLayout->addItem(
+        newSpacer("MFAccessMoveSpacerWidth", "MFAccessMoveSpacerHeight", QSizePolicy::Expanding));
     QHBoxLayout* const movement = DvEditorParts::newRow(
         "movementButtonLayout", "MFButtonLayoutMargin", "MFButtonLayoutSpacing");
     movement->addWidget(m_upButton);
@@ -177,7 +193,7 @@ void DvMFieldWidget::connectTable()
 
 void DvMFieldWidget::languageChange()
 {
-    if (!frame() || !m_table)
+    if (!hasTable())
         return;
     m_defaultButton->setText(QString());
     m_ignoreButton->setText(QString());
@@ -195,6 +211,8 @@ void DvMFieldWidget::languageChange()
         row.first->setAccessibleName(row.second);
     }
     m_table->setAccessibleName(tr("Values"));
+    showRowCount(m_table->rowCount());
+    s_showWhetherEditable();
 }
 
 bool DvMFieldWidget::accept(SoField* field) const
@@ -204,7 +222,7 @@ bool DvMFieldWidget::accept(SoField* field) const
 
 void DvMFieldWidget::setField(SoField* field)
 {
-    if (!frame() || !m_table) {
+    if (!hasTable()) {
         m_field = nullptr;
         return;
     }
@@ -249,6 +267,13 @@ void DvMFieldWidget::refresh()
     showRowCount(rowCount());
     m_table->refreshCells();
     m_ignoreButton->setChecked(m_field->isIgnored());
+    s_showWhetherEditable();
+}
+
+void DvMFieldWidget::s_showWhetherEditable()
+{
+    if (!m_field || !frame())
+        return;
     const bool editable = !isReadOnly();
     for (QPushButton* button :
          {m_addButton, m_deleteButton, m_upButton, m_downButton, m_defaultButton})
@@ -299,7 +324,7 @@ void DvMFieldWidget::ignoreButtonStateChanged()
 
 void DvMFieldWidget::setDefaultFieldValue()
 {
-    if (!m_field)
+    if (isReadOnly())
         return;
     m_table->delegate().discardOpenEditor();
     DvDefaultValue::restore(*m_field);

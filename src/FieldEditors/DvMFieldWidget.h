@@ -6,6 +6,7 @@
 
 #include <Inventor/fields/SoMField.h>
 
+#include <cstring>
 #include <vector>
 
 class AccessButtonPrivate;
@@ -64,6 +65,8 @@ public slots:
     virtual void languageChange();
     virtual void setDefaultFieldValue();
     void ignoreButtonStateChanged();
+    /** Enables the buttons or not: of a connection that is taken away Coin tells nobody. */
+    void s_showWhetherEditable();
     /** Shows the row that the spin box, which counts from 1, says. */
     void s_accessRow(int number);
 
@@ -85,10 +88,20 @@ public:
     void pushSetValue(int row);
 
 protected:
+    /** Whether the widgets are there: made, and not deleted by a dock. */
+    bool hasTable() const { return frame() && m_table; }
     template <class Field>
     Field* fieldAs() const
     {
         return static_cast<Field*>(m_field);
+    }
+    /** A value of plain numbers, byte for byte: what a rowValue() is made of. */
+    template <class Value>
+    static QByteArray bytesOf(const Value& value)
+    {
+        QByteArray bytes(static_cast<int>(sizeof value), Qt::Uninitialized);
+        std::memcpy(bytes.data(), &value, sizeof value);
+        return bytes;
     }
     QLabel* label();
     /** Makes the table; a type that needs another class of table makes its own. */

@@ -4,6 +4,7 @@
 
 #include "FieldEditors/AccessButtonPrivate.h"
 #include "FieldEditors/MFWidgets/DvMFInt32Widget.h"
+#include "FieldEditors/MFWidgets/DvMFStringWidget.h"
 #include "FieldEditors/MFWidgets/DvMFVec2fWidget.h"
 
 #include <Inventor/sensors/SoFieldSensor.h>
@@ -256,6 +257,38 @@ private slots:
                           five.table().visualItemRect(five.table().item(1, 0)).center());
         QVERIFY(five.table().selectedRanges().isEmpty());
         QCOMPARE(five.table().currentRow(), 1);
+    }
+
+    void losingTheFocusWithShiftHeldEndsTheSelecting()
+    {
+        const FiveRows five;
+        five.table().setFocus();
+        QTest::keyPress(&five.table(), Qt::Key_Shift);
+        QTest::keyClick(&five.table(), Qt::Key_Down, Qt::ShiftModifier);
+        five.rig.leave(); // which hears of the release
+        QVERIFY(!five.table().isRangeSelection());
+        QCOMPARE(five.table().selectionMode(), QAbstractItemView::NoSelection);
+        five.table().setFocus();
+        five.press(Qt::Key_Delete);
+        QCOMPARE(five.rows(), QByteArray("0 1 2 4"));
+    }
+
+    void aCapitalLetterThatOpensACellSelectsNoRows()
+    {
+        DvMFStringWidget editor;
+        const TableRig rig(editor, "mfString");
+        rig.table().setFocus();
+        rig.table().setCurrentCell(1, 0);
+        QTest::keyPress(&rig.table(), Qt::Key_Shift);
+        QTest::keyClick(&rig.table(), Qt::Key_A, Qt::ShiftModifier);
+        QVERIFY(rig.openLine());
+        QTest::keyRelease(rig.openLine(), Qt::Key_Shift);
+        QTest::keyClick(rig.openLine(), Qt::Key_Return);
+        TableRig::settle();
+        QVERIFY(!rig.table().isRangeSelection());
+        QTest::keyClick(&rig.table(), Qt::Key_Delete);
+        QCOMPARE(rig.rows().size(), 2);
+        QCOMPARE(rig.host.services.count(), 2);
     }
 
     void shiftAndDeleteTakeTheSelectedRowsAsOneEntry()

@@ -210,6 +210,43 @@ private slots:
         QVERIFY(rig.openLine());
     }
 
+    void theKeysOnTheThumbEndTheEditingToo_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("Return") << int(Qt::Key_Return);
+        QTest::newRow("Escape") << int(Qt::Key_Escape);
+    }
+    void theKeysOnTheThumbEndTheEditingToo()
+    {
+        QFETCH(int, key);
+        DvMFInt32Widget editor;
+        const TableRig rig(editor, "mfInt32");
+        auto* const thumb = rig.openCell(1, 0)->findChild<QSlider*>();
+        thumb->setFocus();
+        QTest::keyClick(thumb, Qt::Key_End);
+        QCOMPARE(rig.rows().at(1), QByteArray("10"));
+        QTest::keyClick(thumb, Qt::Key(key));
+        QCoreApplication::processEvents();
+        TableRig::settle();
+        QVERIFY(!rig.table().delegate().openEditor());
+        // What the thumb has written stays: it commits as it moves.
+        QCOMPARE(rig.rows().at(1), QByteArray("10"));
+    }
+
+    void anotherEditorIsLeftToTheBase()
+    {
+        DvMFVec2fWidget editor;
+        const TableRig rig(editor, "mfVec2f");
+        QSpinBox number;
+        number.setValue(7);
+        const QModelIndex index = rig.table().model()->index(1, 0);
+        rig.table().delegate().setEditorData(&number, index);
+        QCOMPARE(number.value(), 7);
+        rig.table().delegate().setModelData(&number, rig.table().model(), index);
+        QCOMPARE(rig.shownRow(1), QStringLiteral("7|4"));
+        QCOMPARE(rig.rows().at(1), QByteArray("3 4"));
+    }
+
     void keepsAnIntermediateTextInTheCellAndOutOfTheField_data() { addEnds(); }
     void keepsAnIntermediateTextInTheCellAndOutOfTheField()
     {

@@ -3,7 +3,9 @@
 #include "tests/support/TestMain.h"
 
 #include "FieldEditors/AccessButtonPrivate.h"
+#include "FieldEditors/MFWidgets/DvMFDefaultFieldWidget.h"
 #include "FieldEditors/MFWidgets/DvMFInt32Widget.h"
+#include "FieldEditors/MFWidgets/DvMFMatrixWidget.h"
 #include "FieldEditors/MFWidgets/DvMFPlaneWidget.h"
 #include "FieldEditors/MFWidgets/DvMFStringWidget.h"
 #include "FieldEditors/MFWidgets/DvMFVec2fWidget.h"
@@ -27,6 +29,8 @@ public:
     void applyCell(int, int, const QString&) override {}
     void swapRows(int, int) override {}
 };
+
+#include <memory>
 
 class tst_DvMFieldWidget : public QObject
 {
@@ -91,6 +95,7 @@ private slots:
         QCOMPARE(buttons->contentsMargins(), QMargins(0, 0, 0, 0));
         QCOMPARE(buttons->spacing(), 5);
         QCOMPARE(frame->findChild<QLayout*>("m_manageButtonsLayout")->spacing(), 0);
+        QCOMPARE(editor.table().minimumHeight(), 46);
     }
 
     void theLabelAndTheHeadersSayTheType()
@@ -235,7 +240,6 @@ private slots:
         QCOMPARE(rig.host.services.count(), 0);
         rig.accessBox().setValue(2);
         QCOMPARE(rig.table().currentRow(), 1);
-        // Of this alone a field does not tell; the next change does.
         rig.field->disconnect();
         rig.field->touch();
         TableRig::runSensors();
@@ -268,6 +272,76 @@ private slots:
         QApplication::sendEvent(&viewport, &help);
         QCOMPARE(QToolTip::text(), rig.editor.readOnlyReason());
         QToolTip::hideText();
+        master->unref();
+    }
+
+    void aConnectionTakenAwayInSilenceIsNoticedByWhoeverComes_data()
+    {
+        QTest::addColumn<bool>("byMouse");
+        QTest::newRow("the mouse comes into the frame") << true;
+        QTest::newRow("the keyboard comes into the table") << false;
+    }
+    void aConnectionTakenAwayInSilenceIsNoticedByWhoeverComes()
+    {
+        QFETCH(bool, byMouse);
+        DvMFVec2fWidget editor;
+        const TableRig rig(editor, "mfVec2f");
+        auto* const master = new SoEveryField;
+        master->ref();
+        rig.field->connectFrom(&master->mfVec2f);
+        TableRig::runSensors();
+        rig.leave();
+        rig.field->disconnect();
+        TableRig::runSensors();
+        QVERIFY(!rig.find<QPushButton>("m_addButton")->isEnabled());
+        if (byMouse) {
+            QEnterEvent event({}, {}, {});
+            QApplication::sendEvent(editor.getWidget(), &event);
+        } else {
+            rig.table().setFocus();
+        }
+        QVERIFY(rig.find<QPushButton>("m_addButton")->isEnabled());
+        QCOMPARE(rig.table().toolTip(), QString());
+        master->unref();
+    }
+
+    void aFieldOfAFieldWithoutANodeIsShown()
+    {
+        DvMFInt32Widget numbers;
+        DvMFMatrixWidget matrices;
+        DvMFDefaultFieldWidget times;
+        for (const auto& [editor, name] : {std::make_pair<DvMFieldWidget*>(&numbers, "mfInt32"),
+                                           std::make_pair<DvMFieldWidget*>(&matrices, "mfMatrix"),
+                                           std::make_pair<DvMFieldWidget*>(&times, "mfTime")}) {
+            const TableRig rig(*editor, name);
+            const std::unique_ptr<SoMField> master(
+                static_cast<SoMField*>(rig.field->getTypeId().createInstance()));
+            master->copyFrom(*rig.field);
+            const QStringList before = rig.shownRows();
+            rig.field->connectFrom(master.get());
+            TableRig::runSensors();
+            QCOMPARE(rig.shownRows(), before);
+            QCOMPARE(rig.table().toolTip(),
+                     QStringLiteral("The values come from elsewhere and cannot be edited here"));
+            rig.table().viewport()->grab();
+            master->touch();
+            TableRig::runSensors();
+            rig.field->disconnect();
+        }
+    }
+
+    void aConnectedFieldIsNotSetToItsDefault()
+    {
+        DvMFVec2fWidget editor;
+        const TableRig rig(editor, "mfVec2f");
+        auto* const master = new SoEveryField;
+        master->ref();
+        master->mfVec2f.set("[7 8]");
+        rig.field->connectFrom(&master->mfVec2f);
+        editor.setDefaultFieldValue();
+        QCOMPARE(rig.rows(), QList<QByteArray>{"7 8"});
+        QCOMPARE(rig.host.services.count(), 0);
+        rig.field->disconnect();
         master->unref();
     }
 
@@ -348,11 +422,13 @@ private slots:
         rig.find<QPushButton>("m_addButton")->setToolTip(QStringLiteral("old"));
         for (const char* button : {"m_defaultButton", "m_ignoreButton"})
             rig.find<QPushButton>(button)->setText(QStringLiteral("old"));
+        rig.find<QLabel>("m_labelNumElement")->setText(QStringLiteral("old"));
         QEvent event(QEvent::LanguageChange);
         QApplication::sendEvent(editor.getWidget(), &event);
         for (const char* button : {"m_defaultButton", "m_ignoreButton"})
             QCOMPARE(rig.find<QPushButton>(button)->text(), QString());
         QCOMPARE(rig.find<QPushButton>("m_addButton")->toolTip(), QStringLiteral("Add a row"));
+        QCOMPARE(rig.find<QLabel>("m_labelNumElement")->text(), QStringLiteral("of 3"));
     }
 
     void theEditorOutlivesItsField()

@@ -3,7 +3,6 @@
 #include "FieldEditors/DvMFieldWidget.h"
 
 #include <cstddef>
-#include <cstring>
 
 /**
  * The family of the multiple-value fields whose rows are made of numbers, a column each. `View` is
@@ -30,12 +29,7 @@ public:
 
     QByteArray rowValue(int row) const override
     {
-        if (!isRow(row))
-            return {};
-        const Numbers numbers = numbersAt(row);
-        QByteArray bytes(static_cast<int>(sizeof numbers), Qt::Uninitialized);
-        std::memcpy(bytes.data(), numbers.data(), sizeof numbers);
-        return bytes;
+        return isRow(row) ? bytesOf(numbersAt(row)) : QByteArray();
     }
 
     void applyCell(int row, int column, const QString& text) override

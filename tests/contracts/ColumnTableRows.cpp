@@ -19,8 +19,9 @@ struct Texts
     const char* outside;
     QStringList shownOutside;
     const char* rough;
-    const char* rowAfter; ///< with 9 typed into its second cell
+    const char* rowAfter; ///< with 9 typed into one of its cells
     const char* emptyRow;
+    int column = 1; ///< of that cell
 };
 
 template <class Editor, class Field>
@@ -38,11 +39,11 @@ TableRow row(const char* name, const char* label, const char* field, int kind, c
     row.outside = texts.outside;
     row.shownOutside = texts.shownOutside;
     row.rough = texts.rough;
-    row.edit = {enteringIntoCell(1, "9"), texts.rowAfter, 1};
+    row.edit = {enteringIntoCell(texts.column, "9"), texts.rowAfter, 1};
     row.emptyRow = texts.emptyRow;
     row.copiesWhenAdding = true;
     row.swapsByCommand = false;
-    row.beginnings = {aCellIsOpen(1), aCellIsModified(1, "9")};
+    row.beginnings = {aCellIsOpen(texts.column), aCellIsModified(texts.column, "9")};
     return row;
 }
 
@@ -86,8 +87,9 @@ const Texts s_planes = {{"x", "y", "z", "distance"},
                         "[0 1 0 1, 1 0 0 2, 0 0 1 3, 0 0 1 4]",
                         {"0|||", "1|||", "0|||", "0|||"},
                         "[1 2 3 0.333333343]",
-                        "0 1 0 2",
-                        "0 0 0 0"};
+                        "0 1 0 9", // a normal would be given the length 1 again
+                        "0 0 0 0",
+                        3};
 const Texts s_rotations = {{"x", "y", "z", "radians"},
                            {"1|||", "0|||", "0|||"},
                            "[0 0 1 0, 1 0 0 3.1415927, 0 0 1 0, 0 0 1 0]",

@@ -106,6 +106,10 @@ private slots:
     {
         const TableRow& r = fetchRow();
         const auto editor = r.make();
+        auto* const node = new SoEveryField;
+        node->ref();
+        QVERIFY(editor->accept(node->getField(r.field))); // without its widgets, too
+        node->unref();
         const TableRig rig(*editor, r.field);
         QVERIFY(editor->accept(rig.field));
         QVERIFY(!editor->accept(nullptr));
@@ -153,6 +157,30 @@ private slots:
              {std::make_pair(-1, 0), std::make_pair(3, 0), std::make_pair(0, r.headers.size()),
               std::make_pair(0, -1), std::make_pair(INT_MAX, 0)})
             QVERIFY(editor->cellText(row, column).isNull());
+    }
+
+    void rowsOfOneValueShowTheSame_data() { addRows(); }
+    void rowsOfOneValueShowTheSame()
+    {
+        const TableRow& r = fetchRow();
+        const auto editor = r.make();
+        const TableRig rig(*editor, r.field);
+        for (const int row : {-1, 3, INT_MAX})
+            QVERIFY(editor->rowValue(row).isEmpty());
+        const QByteArray before = editor->rowValue(1);
+        QCOMPARE(editor->rowValue(1), before);
+        r.edit.act(rig);
+        QVERIFY(editor->rowValue(1) != before);
+        const QList<QByteArray> rows = rig.rows();
+        for (int left = 0; left < 3; ++left) {
+            for (int right = 0; right < 3; ++right)
+                QCOMPARE(editor->rowValue(left) == editor->rowValue(right),
+                         rows[left] == rows[right]);
+        }
+        editor->swapRows(0, 1);
+        const QByteArray second = editor->rowValue(1);
+        editor->swapRows(0, 1);
+        QCOMPARE(editor->rowValue(0), second);
     }
 
     void nothingIsWrittenOutsideOfTheFieldsRows_data() { addRows(); }

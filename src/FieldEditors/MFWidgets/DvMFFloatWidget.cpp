@@ -14,6 +14,8 @@ bool DvMFFloatWidget::accept(SoField* field) const
 {
     if (!DvMFLineWidget::accept(field))
         return false;
+    if (!hasTable())
+        return true;
     const DvNumericRanges::Range& range = DvNumericRanges::forReal(*field, "floatField");
     table().delegate().setRealRange(range.minimum, range.maximum, range.bounded);
     return true;

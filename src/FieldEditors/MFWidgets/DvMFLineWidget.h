@@ -2,8 +2,6 @@
 
 #include "FieldEditors/DvMFTextRows.h"
 
-#include <cstring>
-
 /**
  * The common base of the six single-column number editors; never registered itself.
  *
@@ -29,10 +27,7 @@ protected:
     template <class Field>
     static QByteArray numberAt(const SoMField& field, int row)
     {
-        const auto number = static_cast<const Field&>(field)[row];
-        QByteArray bytes(static_cast<int>(sizeof number), Qt::Uninitialized);
-        std::memcpy(bytes.data(), &number, sizeof number);
-        return bytes;
+        return bytesOf(static_cast<const Field&>(field)[row]);
     }
 
 private:

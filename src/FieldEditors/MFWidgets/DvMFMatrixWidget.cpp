@@ -23,6 +23,12 @@ QString DvMFMatrixWidget::cellText(int row, int column) const
     return DvFieldText::toQString(text).simplified();
 }
 
+QByteArray DvMFMatrixWidget::rowValue(int row) const
+{
+    // The texts of one matrix differ in how far Coin indents them.
+    return isRow(row) ? bytesOf((*fieldAs<SoMFMatrix>())[row].getValue()) : QByteArray();
+}
+
 void DvMFMatrixWidget::showRow(DvNumberLines& lines, int row)
 {
     const DvMatrixView::Numbers numbers = DvMatrixView::numbers((*fieldAs<SoMFMatrix>())[row]);

@@ -11,6 +11,7 @@ public:
     DvMFMatrixWidget();
 
     QString cellText(int row, int column) const override;
+    QByteArray rowValue(int row) const override;
     /** Writes the matrix from all lines of the pop-up; column and text are not used. */
     void applyCell(int row, int column, const QString& text) override;
     void swapRows(int row1, int row2) override;

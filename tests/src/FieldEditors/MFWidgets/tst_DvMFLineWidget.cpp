@@ -100,6 +100,23 @@ private slots:
         QCOMPARE(rig.rows()[1], text);
     }
 
+    void keepsTheBaseThatTheCellShowsForWhatIsTyped()
+    {
+        DvMFUInt32Widget editor;
+        const TableRig rig(editor, "mfUInt32");
+        rig.field->set1(1, "255");
+        TableRig::runSensors();
+        rig.openCell(1, 0);
+        QCOMPARE(rig.openLine()->text(), QStringLiteral("FF"));
+        rig.enter(1, 0, QStringLiteral("10"));
+        TableRig::runSensors();
+        QCOMPARE(rig.shownRow(1), QStringLiteral("0x10"));
+        // A prefix says nothing else.
+        rig.enter(1, 0, QStringLiteral("0x20"));
+        TableRig::runSensors();
+        QCOMPARE(rig.shownRow(1), QStringLiteral("0x20"));
+    }
+
     void hexadecimalNumbersStayInOrderWhenTheirCellIsOpened_data()
     {
         QTest::addColumn<QByteArray>("field");

@@ -1,4 +1,5 @@
 #include "tests/contracts/RandomTableSession.h"
+#include "tests/contracts/TableEditors.h"
 #include "tests/support/TestMain.h"
 
 #include <Inventor/errors/SoDebugError.h>
@@ -13,24 +14,9 @@ void keepQuiet(const SoError*, void*) {}
 } // namespace
 
 /** Whatever is done to a multiple-value field through its editor, it holds what it must. */
-class tst_MultipleValueRandom : public QObject
+class tst_MultipleValueRandom : public QObject, private TableEditors
 {
     Q_OBJECT
-
-private:
-    static const std::vector<TableRow>& rows()
-    {
-        static const std::vector<TableRow> s_rows = allRows();
-        return s_rows;
-    }
-
-    static std::vector<TableRow> allRows()
-    {
-        std::vector<TableRow> all = numberTableRows();
-        for (const auto& family : {columnTableRows(), otherTableRows()})
-            all.insert(all.end(), family.begin(), family.end());
-        return all;
-    }
 
 private slots:
     void initTestCase()
@@ -41,17 +27,11 @@ private slots:
         SoDebugError::setHandlerCallback(keepQuiet, nullptr);
     }
 
-    void theFieldHoldsWhatThePlainListDoes_data()
-    {
-        QTest::addColumn<int>("row");
-        int number = 0;
-        for (const TableRow& row : rows())
-            QTest::newRow(row.name) << number++;
-    }
+    void theFieldHoldsWhatThePlainListDoes_data() { addRows(); }
     void theFieldHoldsWhatThePlainListDoes()
     {
         QFETCH(int, row);
-        RandomTableSession session(rows()[static_cast<std::size_t>(row)], quint32(row) + 1);
+        RandomTableSession session(fetchRow(), quint32(row) + 1);
         QStringList last;
         const int steps = s_steps / static_cast<int>(rows().size()) + 1;
         for (int number = 0; number < steps; ++number) {

@@ -1,6 +1,6 @@
 #include "FieldEditors/DvMFieldItem.h"
 
-#include "FieldEditors/DvMFieldTable.h"
+#include "FieldEditors/DvMFieldCells.h"
 
 namespace {
 
@@ -11,7 +11,7 @@ bool isTextRole(int role)
 
 } // namespace
 
-DvMFieldItem::DvMFieldItem(DvMFieldTable& table, int row, int column)
+DvMFieldItem::DvMFieldItem(DvMFieldCells& table, int row, int column)
     : m_table(table), m_row(row), m_column(column), m_generation(table.m_generation)
 {}
 

@@ -2,13 +2,13 @@
 
 #include <QTableWidgetItem>
 
-class DvMFieldTable;
+class DvMFieldCells;
 
 /** The item of one cell; it holds no text of its own. */
 class DvMFieldItem final : public QTableWidgetItem
 {
 public:
-    DvMFieldItem(DvMFieldTable& table, int row, int column);
+    DvMFieldItem(DvMFieldCells& table, int row, int column);
 
     /** Tells the item where it stands, which is dear to find out once rows have moved. */
     void place(int row, int column) const;
@@ -19,7 +19,7 @@ public:
 private:
     void findPlace() const;
 
-    DvMFieldTable& m_table;
+    DvMFieldCells& m_table;
     mutable int m_row;
     mutable int m_column;
     mutable unsigned m_generation;

@@ -5,16 +5,13 @@
 #include "FieldEditors/DvCommands.h"
 #include "FieldEditors/DvDefaultValue.h"
 #include "FieldEditors/DvEditorParts.h"
+#include "FieldEditors/DvFieldMaster.h"
 #include "FieldEditors/DvLayoutConstants.h"
 #include "FieldEditors/DvMFieldTable.h"
 #include "FieldEditors/DvSlider.h"
 #include "FieldEditors/TvkFieldIgnoredCommand.h"
 #include "FieldEditors/TvkMFSetValueCommand.h"
 #include "scenegraph/SoFieldText.h"
-
-#include <Inventor/engines/SoEngine.h>
-#include <Inventor/engines/SoEngineOutput.h>
-#include <Inventor/fields/SoFieldContainer.h>
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -23,27 +20,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-QString typeNameOf(const SoFieldContainer& container)
-{
-    return QLatin1String(container.getTypeId().getName().getString());
-}
-
-/** Names the field or the engine that a field takes its values from. */
-QString masterOf(const SoField& field)
-{
-    SoField* master = nullptr;
-    if (field.getConnectedField(master) && master->getContainer()) {
-        SbName name;
-        master->getContainer()->getFieldName(master, name);
-        return QStringLiteral("%1.%2").arg(typeNameOf(*master->getContainer()),
-                                           QLatin1String(name.getString()));
-    }
-    SoEngineOutput* output = nullptr;
-    if (field.getConnectedEngine(output) && output->getContainer())
-        return QStringLiteral("engine %1").arg(typeNameOf(*output->getContainer()));
-    return QStringLiteral("elsewhere");
-}
 
 /** In a narrow table an equal share of the width would be too little for a word. */
 void fitToLabel(QHeaderView& header, int column)
@@ -296,7 +272,8 @@ QString DvMFieldWidget::readOnlyReason() const
 {
     if (!m_field || !m_field->isConnected())
         return {};
-    return tr("The values come from %1 and cannot be edited here").arg(masterOf(*m_field));
+    return tr("The values come from %1 and cannot be edited here")
+        .arg(DvFieldMaster::nameOf(*m_field));
 }
 
 void DvMFieldWidget::s_accessRow(int number)

@@ -14,6 +14,7 @@ class DvMFieldTable;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class TvkCommand;
 
 /** What the table of a multiple-value editor looks like: the facts that differ from type to type.
  */

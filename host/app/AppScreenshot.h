@@ -2,13 +2,15 @@
 
 #include <QString>
 
+#include <utility>
+
 class AppWindow;
 
 /** A picture of the whole window in a file, in the format that the file's suffix names. */
 class AppScreenshot
 {
 public:
-    explicit AppScreenshot(const QString& file) : m_file(file) {}
+    explicit AppScreenshot(QString file) : m_file(std::move(file)) {}
 
     /** Whether there is a format and a folder for it. Touches no file. */
     bool isPossible();

@@ -5,6 +5,7 @@
 #include "lib/HostServices.h"
 #include "lib/HostText.h"
 
+#include <Inventor/SbName.h>
 #include <Inventor/SoPath.h>
 #include <Inventor/nodes/SoNode.h>
 
@@ -140,7 +141,7 @@ QString HostBrowser::nodePath() const
     if (!path)
         return {};
     path->ref();
-    const QString text = HostNodePath::text(*path);
+    QString text = HostNodePath::text(*path);
     path->unref();
     return text;
 }

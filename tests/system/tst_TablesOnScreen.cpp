@@ -145,6 +145,7 @@ void tst_TablesOnScreen::chooseColor(int row, const QString& name) const
         QTest::keyClick(&up, Qt::Key_Return);
     });
     clickCell(row, 0);
+    ModalDialog::waitForEnd();
     QVERIFY(dialog.wasUp());
 }
 

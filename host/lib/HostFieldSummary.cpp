@@ -73,7 +73,7 @@ QString singleText(SoField& field)
     if (const auto* const image3 = as<SoSFImage3>(field))
         return image3Text(*image3);
     SbString text;
-    field.get(text);
+    SoFieldText::get(&field, text);
     const QString line = oneLine(text);
     const auto* const number = as<SoSFEnum>(field);
     // A value that has no name is written as nothing.

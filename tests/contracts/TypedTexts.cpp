@@ -110,6 +110,20 @@ bool setIntegerIf(SoField& field, const QString& text)
     return typed != nullptr;
 }
 
+/** The field's whole text. Coin's own reader takes no number that it would round beyond the type.
+ */
+bool setVector(SoSFVec3d& field, const QString& text)
+{
+    const QStringList words = text.split(QLatin1Char(' '));
+    SbVec3d vector;
+    bool isNumber = words.size() == 3;
+    for (int i = 0; isNumber && i < 3; ++i)
+        vector[i] = words[i].toDouble(&isNumber);
+    if (isNumber)
+        field.setValue(vector);
+    return isNumber;
+}
+
 bool setText(SoField& field, const QString& text)
 {
     const QByteArray bytes = text.toUtf8();
@@ -123,7 +137,7 @@ bool setText(SoField& field, const QString& text)
     return isString;
 }
 
-/** The one number that a line stands for; false for a line with the field's whole text. */
+/** The numbers that a line stands for; false for a line with any other text. */
 bool setNumber(SoField& field, int line, const QString& text)
 {
     if (auto* const plane = as<SoSFPlane>(field))
@@ -132,6 +146,8 @@ bool setNumber(SoField& field, int line, const QString& text)
         return setRotation(*rotation, line, text);
     if (auto* const box = as<SoSFBox3s>(field))
         return line > 0 && setBox(*box, line - 1, text);
+    if (auto* const vector = as<SoSFVec3d>(field))
+        return setVector(*vector, text);
     if (auto* const matrix = as<SoSFMatrix>(field))
         return line > 0 && setMatrix(*matrix, line - 1, text);
     return setComponentIf<SoSFVec2f>(field, line, text) ||

@@ -4,6 +4,7 @@
 #include "FieldEditors/DvFieldText.h"
 #include "FieldEditors/DvWheelGuard.h"
 #include "FieldEditors/SFWidgets/DvEnumBox.h"
+#include "scenegraph/SoFieldText.h"
 
 #include <QHBoxLayout>
 #include <QSignalBlocker>
@@ -42,7 +43,7 @@ void DvSFEnumWidget::refresh()
 {
     if (auto* const value = fieldAs<SoSFEnum>()) {
         SbString text;
-        value->get(text);
+        SoFieldText::get(value, text);
         const QSignalBlocker blocker(m_comboBox);
         m_comboBox->setPlaceholderText(QString::number(value->getValue()));
         m_comboBox->setCurrentIndex(m_comboBox->findText(

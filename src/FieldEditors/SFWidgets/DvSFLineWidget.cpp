@@ -54,7 +54,7 @@ void DvSFLineWidget::refresh()
 {
     if (field() && !(m_line->hasFocus() && m_line->isModified())) {
         SbString text;
-        field()->get(text);
+        SoFieldText::get(field(), text);
         const int cursor = m_line->hasFocus() ? m_cursorPosition : 0;
         m_line->showText(DvFieldText::toQString(text));
         m_line->setCursorPosition(cursor);
@@ -88,7 +88,7 @@ void DvSFLineWidget::applyChanges(const QString& text)
     if (!accepted || holdsObject())
         return;
     if (!m_appliedWhileTyping)
-        field()->get(m_textBeforeTyping);
+        SoFieldText::get(field(), m_textBeforeTyping);
     m_appliedWhileTyping = true;
     write(text);
 }

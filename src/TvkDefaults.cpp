@@ -30,9 +30,9 @@ void TvkDefaults::load()
         &m_sfMatrixWidget,   &m_sfNameWidget,         &m_sfPlaneWidget,   &m_sfRotationWidget,
         &m_sfShortWidget,    &m_sfStringWidget,       &m_sfUInt32Widget,  &m_sfUShortWidget,
         &m_sfVec2fWidget,    &m_sfVec2i32Widget,      &m_sfVec2sWidget,   &m_sfVec3fWidget,
-        &m_sfVec4fWidget,    &m_fieldEditorDockWin,
+        &m_sfVec4fWidget,    &m_fieldEditorDockWin,   &m_nodeEditor,
     };
-    static_assert(sizeof(extensions) / sizeof(extensions[0]) == 42);
+    static_assert(sizeof(extensions) / sizeof(extensions[0]) == 43);
     for (TvkExtension* extension : extensions)
         addExtension(extension);
     TvkPlugin::load();

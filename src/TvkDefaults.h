@@ -42,6 +42,7 @@
 #include "FieldEditors/SFWidgets/DvSFVec3fWidget.h"
 #include "FieldEditors/SFWidgets/DvSFVec4fWidget.h"
 #include "FieldEditors/TvkFieldEditorDockWin.h"
+#include "FieldEditors/TvkNodeEditor.h"
 
 #include <TvkPlugin.h>
 
@@ -98,4 +99,5 @@ private:
     DvSFVec3fWidget m_sfVec3fWidget;
     DvSFVec4fWidget m_sfVec4fWidget;
     TvkFieldEditorDockWin m_fieldEditorDockWin;
+    TvkNodeEditor m_nodeEditor;
 };

@@ -29,7 +29,11 @@ void TvkEditorDock::createWidgets()
 
 void TvkEditorDock::activate()
 {
+    // Once, as the deactivation: a second one would be told everything twice.
+    const bool wasActive = isActive();
     TvkExtension::activate();
+    if (wasActive)
+        return;
     connect(TvkServices::getInstance(), m_identity.signal, this, m_identity.slot);
     TvkShell::getInstance()->addDockWidget(m_dock, Qt::RightDockWidgetArea);
     TvkShell::getInstance()->registerExtension(this, true);

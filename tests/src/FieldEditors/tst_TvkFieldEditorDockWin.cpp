@@ -1,52 +1,31 @@
+#include "tests/support/EditorDockRig.h"
 #include "tests/support/RecordingEditor.h"
-#include "tests/support/RecordingHost.h"
 #include "tests/support/TestMain.h"
 
 #include "FieldEditors/SFWidgets/DvSFLineWidget.h"
 #include "FieldEditors/SFWidgets/DvSFVec3fWidget.h"
 #include "FieldEditors/TvkFieldEditorDockWin.h"
 
-#include <TvkProfileSetting.h>
-
 #include <Inventor/nodes/SoTranslation.h>
-
-#include <QDockWidget>
 
 class tst_TvkFieldEditorDockWin : public QObject
 {
     Q_OBJECT
 
 private:
-    /** The dock on a recording host, with the editors that its setting controls. */
-    struct Rig
+    /** The dock, and a node whose fields are selected. */
+    struct Rig : EditorDockRig<TvkFieldEditorDockWin>
     {
-        Rig()
-        {
-            dock.createWidgets();
-            dock.setProfileSetting(&setting);
-            dock.activate();
-            node->ref();
-            // The dock's window is nobody's child before this recording shell.
-            for (QWidget* widget : QApplication::topLevelWidgets()) {
-                if (widget->objectName() == QLatin1String("TvkFieldEditorDockWin"))
-                    window = qobject_cast<QDockWidget*>(widget);
-            }
-        }
+        Rig() { node->ref(); }
         ~Rig()
         {
             dock.deactivate();
-            dock.releaseWidgets();
             node->unref();
         }
         Rig(const Rig&) = delete;
         Rig& operator=(const Rig&) = delete;
 
-        RecordingHost host;
-        TvkProfileSetting setting;
-        TvkFieldEditorDockWin dock;
-        QPointer<QDockWidget> window;
         SoTranslation* node = new SoTranslation;
-        QStringList log;
     };
 
     static SoType vec3f() { return SoSFVec3f::getClassTypeId(); }

@@ -4,6 +4,8 @@
 #include "app/AppSceneView.h"
 #include "app/AppWindow.h"
 
+#include "lib/HostFieldModel.h"
+
 #include <Inventor/SbName.h>
 #include <Inventor/SoPath.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>

@@ -1,5 +1,7 @@
 #include "lib/HostBrowser.h"
 
+#include "lib/HostCopyPath.h"
+#include "lib/HostFieldList.h"
 #include "lib/HostFullPath.h"
 #include "lib/HostNodePath.h"
 #include "lib/HostServices.h"
@@ -9,33 +11,19 @@
 #include <Inventor/SoPath.h>
 #include <Inventor/nodes/SoNode.h>
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
 #include <QScopedValueRollback>
-#include <QTableView>
 #include <QTreeView>
 
-namespace {
-
-void followContents(QHeaderView& header, std::initializer_list<int> sections)
-{
-    for (int section : sections)
-        header.setSectionResizeMode(section, QHeaderView::ResizeToContents);
-}
-
-} // namespace
-
 HostBrowser::HostBrowser(HostServices& services)
-    : m_services(services), m_sceneView(new QTreeView), m_fieldView(new QTableView)
+    : m_services(services), m_sceneView(new QTreeView), m_fieldList(new HostFieldList(services))
 {
     buildSceneView();
-    buildFieldView();
     connect(&services, SIGNAL(selectedNodeChanged(SoFieldContainer*)),
             SLOT(s_selectedNodeChanged(SoFieldContainer*)));
-    connect(&services, SIGNAL(selectedFieldChanged(SoField*)),
-            SLOT(s_selectedFieldChanged(SoField*)));
+    connect(&services, SIGNAL(fieldPathWanted()), SLOT(copyFieldPath()));
 }
 
 HostBrowser::~HostBrowser() = default;
@@ -45,48 +33,15 @@ void HostBrowser::buildSceneView()
     m_sceneView->setObjectName(QStringLiteral("sceneView"));
     m_sceneView->setModel(&m_sceneModel);
     m_sceneView->setUniformRowHeights(true);
-    m_sceneView->header()->setStretchLastSection(false);
-    m_sceneView->header()->setSectionResizeMode(HostSceneModel::TypeColumn, QHeaderView::Stretch);
-    followContents(*m_sceneView->header(),
-                   {HostSceneModel::NameColumn, HostSceneModel::ParentsColumn});
+    QHeaderView& header = *m_sceneView->header();
+    header.setStretchLastSection(false);
+    header.setSectionResizeMode(HostSceneModel::TypeColumn, QHeaderView::Stretch);
+    header.setSectionResizeMode(HostSceneModel::NameColumn, QHeaderView::ResizeToContents);
+    header.setSectionResizeMode(HostSceneModel::ParentsColumn, QHeaderView::ResizeToContents);
     connect(m_sceneView->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)),
             SLOT(s_treeSelectionChanged()));
-    addCopyAction(*m_sceneView, QStringLiteral("actionCopyNodePath"), SLOT(copyNodePath()));
-}
-
-void HostBrowser::buildFieldView()
-{
-    m_fieldView->setObjectName(QStringLiteral("fieldView"));
-    m_fieldView->setModel(&m_fieldModel);
-    m_fieldView->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_fieldView->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_fieldView->setShowGrid(false);
-    m_fieldView->setWordWrap(false);
-    m_fieldView->setTabKeyNavigation(false);
-    m_fieldView->verticalHeader()->hide();
-    m_fieldView->verticalHeader()->setDefaultSectionSize(m_fieldView->fontMetrics().height() + 6);
-    m_fieldView->horizontalHeader()->setHighlightSections(false);
-    m_fieldView->horizontalHeader()->setSectionResizeMode(HostFieldModel::ValueColumn,
-                                                          QHeaderView::Stretch);
-    followContents(*m_fieldView->horizontalHeader(),
-                   {HostFieldModel::NameColumn, HostFieldModel::TypeColumn,
-                    HostFieldModel::DefaultColumn, HostFieldModel::IgnoredColumn,
-                    HostFieldModel::ConnectedColumn});
-    connect(m_fieldView->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)),
-            SLOT(s_fieldSelectionChanged()));
-    addCopyAction(*m_fieldView, QStringLiteral("actionCopyFieldPath"), SLOT(copyFieldPath()));
-}
-
-/** In the view's context menu, and on its keys while it has the keyboard. */
-void HostBrowser::addCopyAction(QAbstractItemView& view, const QString& name, const char* slot)
-{
-    auto* action = new QAction(tr("Copy &path"), &view);
-    action->setObjectName(name);
-    action->setShortcut(QKeySequence(tr("Ctrl+Shift+C")));
-    action->setShortcutContext(Qt::WidgetShortcut);
-    connect(action, SIGNAL(triggered()), this, slot);
-    view.addAction(action);
-    view.setContextMenuPolicy(Qt::ActionsContextMenu);
+    HostCopyPath::addTo(*m_sceneView, QStringLiteral("actionCopyNodePath"), this,
+                        SLOT(copyNodePath()));
 }
 
 void HostBrowser::setRoot(SoNode* root)
@@ -178,30 +133,12 @@ void HostBrowser::s_treeSelectionChanged()
     path->unref();
 }
 
-void HostBrowser::s_fieldSelectionChanged()
-{
-    if (m_following)
-        return;
-    const QModelIndexList rows = m_fieldView->selectionModel()->selectedRows();
-    m_services.selectField(rows.isEmpty() ? nullptr : m_fieldModel.field(rows.constFirst().row()));
-}
-
 void HostBrowser::s_selectedNodeChanged(SoFieldContainer* node)
 {
     QScopedValueRollback<bool> following(m_following, true);
-    m_fieldModel.setNode(node ? m_services.selectedNode() : nullptr);
+    m_fieldList->setNode(node ? m_services.selectedNode() : nullptr);
     if (!node) {
         m_sceneView->selectionModel()->clear();
         emit nodeSelected(nullptr);
     }
-}
-
-void HostBrowser::s_selectedFieldChanged(SoField* field)
-{
-    QScopedValueRollback<bool> following(m_following, true);
-    const int row = field ? m_fieldModel.row(field) : -1;
-    if (row < 0)
-        m_fieldView->selectionModel()->clear();
-    else
-        m_fieldView->selectRow(row);
 }

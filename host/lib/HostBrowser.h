@@ -2,16 +2,13 @@
 
 #include "TavrikHostExport.h"
 
-#include "lib/HostFieldModel.h"
 #include "lib/HostSceneModel.h"
 
 #include <QObject>
 
+class HostFieldList;
 class HostServices;
-class QAbstractItemView;
-class QTableView;
 class QTreeView;
-class SoField;
 class SoFieldContainer;
 class SoNode;
 class SoPath;
@@ -28,7 +25,7 @@ public:
 
     /** The two views, made without parent; whoever puts them into a window owns them. */
     QTreeView* sceneView() const { return m_sceneView; }
-    QTableView* fieldView() const { return m_fieldView; }
+    HostFieldList* fieldList() const { return m_fieldList; }
     HostSceneModel& sceneModel() { return m_sceneModel; }
 
     /** Shows another scene, nothing of it selected; null shows none. */
@@ -54,21 +51,16 @@ private slots:
     void copyNodePath() const;
     void copyFieldPath() const;
     void s_treeSelectionChanged();
-    void s_fieldSelectionChanged();
     void s_selectedNodeChanged(SoFieldContainer* node);
-    void s_selectedFieldChanged(SoField* field);
 
 private:
     void buildSceneView();
-    void buildFieldView();
-    void addCopyAction(QAbstractItemView& view, const QString& name, const char* slot);
     /** Of the selected row of the tree; empty when there is none. */
     QString nodePath() const;
 
     HostServices& m_services;
     HostSceneModel m_sceneModel;
-    HostFieldModel m_fieldModel;
-    QTreeView* const m_sceneView;  ///< not owned
-    QTableView* const m_fieldView; ///< not owned
-    bool m_following = false;      ///< the views follow the host's selection, not the user
+    QTreeView* const m_sceneView;     ///< not owned
+    HostFieldList* const m_fieldList; ///< not owned
+    bool m_following = false;         ///< the views follow the host's selection, not the user
 };

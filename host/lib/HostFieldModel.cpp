@@ -1,17 +1,16 @@
 #include "lib/HostFieldModel.h"
 
+#include "lib/HostFieldOrigin.h"
 #include "lib/HostFieldSummary.h"
 #include "lib/HostText.h"
 
 #include <Inventor/SbName.h>
-#include <Inventor/engines/SoEngine.h>
-#include <Inventor/engines/SoEngineOutput.h>
-#include <Inventor/engines/SoNodeEngine.h>
 #include <Inventor/fields/SoField.h>
+#include <Inventor/fields/SoFieldData.h>
 #include <Inventor/lists/SoFieldList.h>
 #include <Inventor/nodes/SoNode.h>
 
-#include <QStringList>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -27,42 +26,43 @@ std::vector<SoField*> fieldsOf(const SoNode* node)
     return fields;
 }
 
-QString fieldName(SoField& field)
+/** What one of the narrow columns marks. */
+struct Mark
 {
-    SbName name;
-    if (const SoFieldContainer* container = field.getContainer())
-        container->getFieldName(&field, name);
-    return HostText::fromCoin(name);
+    const char* letter;
+    const char* name;
+    const char* meaning;
+    SbBool (*isOn)(const SoField& field);
+};
+
+const Mark& markOf(int column)
+{
+    static const Mark s_marks[] = {
+        {QT_TRANSLATE_NOOP("HostFieldModel", "D"), QT_TRANSLATE_NOOP("HostFieldModel", "Default"),
+         QT_TRANSLATE_NOOP("HostFieldModel", "The field has its default value"),
+         [](const SoField& field) { return field.isDefault(); }},
+        {QT_TRANSLATE_NOOP("HostFieldModel", "I"), QT_TRANSLATE_NOOP("HostFieldModel", "Ignored"),
+         QT_TRANSLATE_NOOP("HostFieldModel", "The field is ignored"),
+         [](const SoField& field) { return field.isIgnored(); }},
+        {QT_TRANSLATE_NOOP("HostFieldModel", "C"), QT_TRANSLATE_NOOP("HostFieldModel", "Connected"),
+         QT_TRANSLATE_NOOP("HostFieldModel",
+                           "The field is connected: its value comes from another"),
+         [](const SoField& field) { return field.isConnected(); }},
+    };
+    return s_marks[column - HostFieldModel::DefaultColumn];
 }
 
-QString outputTitle(SoEngineOutput& output)
+bool isMark(int column)
 {
-    SbName name;
-    const SoFieldContainer* container = output.getFieldContainer();
-    if (!output.isNodeEngineOutput())
-        output.getContainer()->getOutputName(&output, name);
-    else
-        output.getNodeContainer()->getOutputName(&output, name);
-    return HostText::title(container) + QStringLiteral(", ") + HostText::fromCoin(name);
+    return column >= HostFieldModel::DefaultColumn && column < HostFieldModel::ColumnCount;
 }
 
-QString connectionText(SoField& field)
+/** A tool tip that looks like HTML would be shown as such. */
+QString plain(const QString& text)
 {
-    SoFieldList masters;
-    field.getConnections(masters);
-    QStringList titles;
-    for (int i = 0; i < masters.getLength(); ++i)
-        titles << HostText::title(masters[i]->getContainer()) + QStringLiteral(", ") +
-                      fieldName(*masters[i]);
-    SoEngineOutput* output = nullptr;
-    if (field.getConnectedEngine(output) && output)
-        titles << outputTitle(*output);
-    return titles.join(QLatin1Char('\n'));
-}
-
-QString mark(bool on)
-{
-    return on ? QString(QChar(0x2713)) : QString();
+    if (!Qt::mightBeRichText(text))
+        return text;
+    return QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped());
 }
 
 } // namespace
@@ -84,19 +84,31 @@ void HostFieldModel::setNode(SoNode* node)
         m_sensor.attach(node);
 }
 
+void HostFieldModel::setFilter(const QString& text)
+{
+    m_filter.setText(text);
+    updateRows();
+}
+
 void HostFieldModel::nodeDied(void* model, SoSensor*)
 {
-    static_cast<HostFieldModel*>(model)->reset(nullptr);
+    auto* const self = static_cast<HostFieldModel*>(model);
+    self->reset(nullptr);
+    emit self->nodeGone();
 }
 
 void HostFieldModel::reset(SoNode* node)
 {
     // Already empty while the reset is announced: nobody may touch the fields of a dying node.
     m_fields.clear();
+    m_rows.clear();
+    m_filter.forgetAll();
+    m_sensor.takeChanged();
     m_node = nullptr;
     beginResetModel();
     m_node = node;
     m_fields = fieldsOf(node);
+    m_rows = acceptedFields();
     endResetModel();
 }
 
@@ -107,27 +119,63 @@ void HostFieldModel::nodeChanged(void* model, SoSensor*)
 
 void HostFieldModel::refresh()
 {
+    for (const SoField* field : m_sensor.takeChanged())
+        m_filter.forget(field);
     // A node of a type that Coin does not know may be given more fields at any time.
     if (fieldsOf(m_node) != m_fields)
         reset(m_node);
-    else if (!m_fields.empty())
+    else if (!updateRows() && !m_rows.empty())
         emit dataChanged(index(0, ValueColumn), index(rowCount() - 1, ConnectedColumn));
+}
+
+/** Answers whether other rows are shown than before. */
+bool HostFieldModel::updateRows()
+{
+    std::vector<int> rows = acceptedFields();
+    if (rows == m_rows)
+        return false;
+    beginResetModel();
+    m_rows = std::move(rows);
+    endResetModel();
+    return true;
+}
+
+std::vector<int> HostFieldModel::acceptedFields()
+{
+    std::vector<int> accepted;
+    for (int i = 0; i < int(m_fields.size()); ++i)
+        if (m_filter.accepts(*m_fields[size_t(i)], name(i)))
+            accepted.push_back(i);
+    return accepted;
+}
+
+/** The container would look for the field among all of its fields. */
+QString HostFieldModel::name(int index) const
+{
+    SoField& field = *m_fields[size_t(index)];
+    const SoFieldContainer& container = *m_node;
+    const SoFieldData* const data = container.getFieldData();
+    const bool isThere = data && index < data->getNumFields();
+    if (isThere && data->getField(&container, index) == &field)
+        return HostText::fromCoin(data->getFieldName(index));
+    return HostFieldOrigin::name(field);
 }
 
 SoField* HostFieldModel::field(int row) const
 {
-    return row >= 0 && row < rowCount() ? m_fields[size_t(row)] : nullptr;
+    return row >= 0 && row < rowCount() ? m_fields[size_t(m_rows[size_t(row)])] : nullptr;
 }
 
 int HostFieldModel::row(const SoField* field) const
 {
-    const auto found = std::find(m_fields.begin(), m_fields.end(), field);
-    return found != m_fields.end() ? int(found - m_fields.begin()) : -1;
+    const auto isIt = [&](int index) { return m_fields[size_t(index)] == field; };
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(), isIt);
+    return found != m_rows.end() ? int(found - m_rows.begin()) : -1;
 }
 
 int HostFieldModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(m_fields.size());
+    return parent.isValid() ? 0 : int(m_rows.size());
 }
 
 int HostFieldModel::columnCount(const QModelIndex& parent) const
@@ -137,45 +185,63 @@ int HostFieldModel::columnCount(const QModelIndex& parent) const
 
 QVariant HostFieldModel::data(const QModelIndex& index, int role) const
 {
-    SoField* shown = index.isValid() ? field(index.row()) : nullptr;
-    if (!shown)
+    if (!index.isValid() || !field(index.row()))
         return {};
     if (role == Qt::DisplayRole)
-        return text(*shown, index.column());
-    if (role == Qt::TextAlignmentRole && index.column() >= DefaultColumn)
+        return display(index.row(), index.column());
+    if (role == Qt::TextAlignmentRole && isMark(index.column()))
         return int(Qt::AlignCenter);
-    if (role == Qt::ToolTipRole && index.column() == ValueColumn)
-        return HostFieldSummary::text(*shown);
-    if (role == Qt::ToolTipRole && index.column() == ConnectedColumn && shown->isConnected())
-        return tr("Connected from %1").arg(connectionText(*shown));
+    if (role == Qt::ToolTipRole)
+        return toolTip(index.row(), index.column());
+    if (role == Qt::AccessibleTextRole && isMark(index.column())) {
+        const Mark& mark = markOf(index.column());
+        return mark.isOn(*field(index.row())) ? tr(mark.name) : QString();
+    }
     return {};
 }
 
-QVariant HostFieldModel::text(SoField& field, int column) const
+QVariant HostFieldModel::display(int row, int column) const
 {
+    SoField& shown = *field(row);
     switch (column) {
     case NameColumn:
-        return fieldName(field);
+        return name(m_rows[size_t(row)]);
     case TypeColumn:
-        return HostText::fromCoin(field.getTypeId().getName());
+        return HostText::fromCoin(shown.getTypeId().getName());
     case ValueColumn:
-        return HostFieldSummary::text(field);
-    case DefaultColumn:
-        return mark(field.isDefault());
-    case IgnoredColumn:
-        return mark(field.isIgnored());
+        return HostFieldSummary::text(shown);
     default:
-        return mark(field.isConnected());
+        return markOf(column).isOn(shown) ? QString(QChar(0x2713)) : QString();
     }
+}
+
+QVariant HostFieldModel::toolTip(int row, int column) const
+{
+    SoField& shown = *field(row);
+    if (!isMark(column))
+        return plain(display(row, column).toString());
+    if (!markOf(column).isOn(shown))
+        return {};
+    if (column != ConnectedColumn)
+        return tr(markOf(column).meaning);
+    return plain(tr("Connected from %1").arg(HostFieldOrigin::connections(shown)));
 }
 
 QVariant HostFieldModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    static const char* const titles[ColumnCount] = {QT_TR_NOOP("Name"),    QT_TR_NOOP("Type"),
-                                                    QT_TR_NOOP("Value"),   QT_TR_NOOP("Default"),
-                                                    QT_TR_NOOP("Ignored"), QT_TR_NOOP("Connected")};
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 ||
-        section >= ColumnCount)
+    static const char* const titles[] = {QT_TR_NOOP("Name"), QT_TR_NOOP("Type"),
+                                         QT_TR_NOOP("Value")};
+    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
         return {};
-    return tr(titles[section]);
+    if (!isMark(section))
+        return role == Qt::DisplayRole ? tr(titles[section]) : QVariant();
+    if (role == Qt::DisplayRole)
+        return tr(markOf(section).letter);
+    if (role == Qt::TextAlignmentRole)
+        return int(Qt::AlignCenter);
+    if (role == Qt::AccessibleTextRole)
+        return tr(markOf(section).name);
+    if (role == Qt::ToolTipRole)
+        return tr("%1: %2").arg(tr(markOf(section).name), tr(markOf(section).meaning));
+    return {};
 }

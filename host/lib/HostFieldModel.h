@@ -2,7 +2,8 @@
 
 #include "TavrikHostExport.h"
 
-#include <Inventor/sensors/SoNodeSensor.h>
+#include "lib/HostFieldFilter.h"
+#include "lib/HostFieldsSensor.h"
 
 #include <QAbstractTableModel>
 
@@ -15,8 +16,8 @@ class SoSensor;
 /**
  * The fields of one node: name, type, value in short, and whether the field is at its default, is
  * ignored, is connected. Follows the node's changes when Coin's delay queue runs; holds no
- * reference to it, and is empty as soon as it dies. A value is read only when a view asks for its
- * row.
+ * reference to it, and is empty as soon as it dies. A value is read only when a view or the filter
+ * asks for its row.
  */
 class TAVRIKHOST_EXPORT HostFieldModel : public QAbstractTableModel
 {
@@ -39,16 +40,23 @@ public:
     /** Shows another node's fields; null shows none. Not referenced. */
     void setNode(SoNode* node);
     SoNode* node() const { return m_node; }
+    /** Shows only the fields with this piece in name, type or value, in whatever case. */
+    void setFilter(const QString& text);
     /** The field of a row; null when there is none. */
     SoField* field(int row) const;
-    /** The row of a field of the node; -1 when it is none of its own. */
+    /** The row of a field of the node; -1 when it is none of its own, or is not shown. */
     int row(const SoField* field) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    /** The last three columns are narrow: their titles are letters, told in full as tool tips. */
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
+
+signals:
+    /** The node has died; the model is empty by now. */
+    void nodeGone();
 
 private:
     static void nodeChanged(void* model, SoSensor*);
@@ -56,9 +64,15 @@ private:
 
     void reset(SoNode* node);
     void refresh();
-    QVariant text(SoField& field, int column) const;
+    bool updateRows();
+    std::vector<int> acceptedFields();
+    QString name(int index) const;
+    QVariant display(int row, int column) const;
+    QVariant toolTip(int row, int column) const;
 
-    SoNodeSensor m_sensor;
+    HostFieldsSensor m_sensor;
+    HostFieldFilter m_filter;
     SoNode* m_node = nullptr;       ///< not owned, not referenced
     std::vector<SoField*> m_fields; ///< the node's own, in the order of declaration
+    std::vector<int> m_rows;        ///< which of them the filter lets through
 };

@@ -1,5 +1,7 @@
 #include "lib/HostMainWindow.h"
 
+#include "lib/HostFieldList.h"
+
 #include <Inventor/fields/SoField.h>
 #include <Inventor/nodes/SoSeparator.h>
 
@@ -11,7 +13,6 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
-#include <QTableView>
 #include <QTimer>
 #include <QTreeView>
 #include <QUndoView>
@@ -69,7 +70,7 @@ void HostMainWindow::buildDocks()
 {
     addDock(QStringLiteral("sceneDock"), tr("Scene"), m_browser.sceneView(),
             Qt::LeftDockWidgetArea);
-    addDock(QStringLiteral("fieldsDock"), tr("Fields"), m_browser.fieldView(),
+    addDock(QStringLiteral("fieldsDock"), tr("Fields"), m_browser.fieldList(),
             Qt::LeftDockWidgetArea);
     auto* history = new QUndoView(&m_services.undoStack().stack());
     history->setObjectName(QStringLiteral("historyView"));

@@ -40,6 +40,13 @@ public:
 
     HostUndoStack& undoStack() { return m_undoStack; }
 
+public slots:
+    /** For whoever shows fields: has the path of the selected one copied. */
+    void copyFieldPath() { emit fieldPathWanted(); }
+
+signals:
+    void fieldPathWanted();
+
 private slots:
     /** Announces what has died since it was announced. */
     void announceDeath();

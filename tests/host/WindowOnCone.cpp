@@ -1,5 +1,6 @@
 #include "tests/host/WindowOnCone.h"
 
+#include "lib/HostFieldModel.h"
 #include "lib/HostSettings.h"
 
 #include "tests/host/HeightCommand.h"

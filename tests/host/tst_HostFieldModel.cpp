@@ -7,11 +7,13 @@
 #include <Inventor/engines/SoCalculator.h>
 #include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoCube.h>
+#include <Inventor/nodes/SoInfo.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/sensors/SoSensorManager.h>
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
+#include <QTextDocument>
 
 #include <cstring>
 
@@ -25,17 +27,31 @@ private slots:
 
     void noNodeHasNoRows();
     void headersNameTheColumns();
+    void theNarrowColumnsAreToldInFull();
     void listsTheFieldsInTheOrderOfDeclaration();
     void fieldsAndRowsFindEachOther();
     void marksDefaultIgnoredAndConnected();
     void theToolTipNamesWhereAValueComesFrom();
     void theToolTipNamesTheEngine();
+    void aToolTipShowsHtmlAsItIsWritten();
     void aChangeIsAnnouncedWhenTheQueueRuns();
     void theDeathOfTheNodeEmptiesTheModelAtOnce();
+    void itsDeathIsTold();
     void fieldsOfAnUnknownNodeAreListed();
+
+    void theFilterLooksIntoNameTypeAndValue_data();
+    void theFilterLooksIntoNameTypeAndValue();
+    void anEmptyFilterListsAllAgain();
+    void theFilterHoldsForTheNextNode();
+    void aFieldThatIsFilteredOutHasNoRow();
+    void aChangedValueIsFilteredAnew();
+    void aChangedMasterIsFilteredAnew();
+    void aChangeThatMovesNoRowResetsNothing();
+    void aFilteredNodeMayDie();
 
 private:
     QString text(int row, HostFieldModel::Column column) const;
+    QStringList names() const;
 
     SoCone* m_cone = nullptr;
     std::unique_ptr<HostFieldModel> m_model;
@@ -67,6 +83,14 @@ QString tst_HostFieldModel::text(int row, HostFieldModel::Column column) const
     return m_model->index(row, column).data().toString();
 }
 
+QStringList tst_HostFieldModel::names() const
+{
+    QStringList names;
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        names << text(row, HostFieldModel::NameColumn);
+    return names;
+}
+
 void tst_HostFieldModel::noNodeHasNoRows()
 {
     m_model->setNode(nullptr);
@@ -80,7 +104,26 @@ void tst_HostFieldModel::headersNameTheColumns()
     QStringList titles;
     for (int column = 0; column < m_model->columnCount(); ++column)
         titles << m_model->headerData(column, Qt::Horizontal).toString();
-    QCOMPARE(titles, QStringList({"Name", "Type", "Value", "Default", "Ignored", "Connected"}));
+    QCOMPARE(titles, QStringList({"Name", "Type", "Value", "D", "I", "C"}));
+}
+
+void tst_HostFieldModel::theNarrowColumnsAreToldInFull()
+{
+    const QStringList names{"Default", "Ignored", "Connected"};
+    for (int i = 0; i < names.size(); ++i) {
+        const int column = HostFieldModel::DefaultColumn + i;
+        const auto header = [&](int role) {
+            return m_model->headerData(column, Qt::Horizontal, role).toString();
+        };
+        QCOMPARE(header(Qt::AccessibleTextRole), names[i]);
+        QVERIFY(header(Qt::ToolTipRole).startsWith(names[i] + ": "));
+    }
+    const QModelIndex isDefault = m_model->index(1, HostFieldModel::DefaultColumn);
+    QCOMPARE(isDefault.data(Qt::AccessibleTextRole).toString(), QString("Default"));
+    QVERIFY(!isDefault.data(Qt::ToolTipRole).toString().isEmpty());
+    m_cone->height = 7;
+    QCOMPARE(isDefault.data(Qt::AccessibleTextRole).toString(), QString());
+    QVERIFY(!isDefault.data(Qt::ToolTipRole).isValid());
 }
 
 void tst_HostFieldModel::listsTheFieldsInTheOrderOfDeclaration()
@@ -141,6 +184,20 @@ void tst_HostFieldModel::theToolTipNamesTheEngine()
     QCOMPARE(text(1, HostFieldModel::ValueColumn), QString("3"));
 }
 
+void tst_HostFieldModel::aToolTipShowsHtmlAsItIsWritten()
+{
+    auto* info = new SoInfo;
+    info->ref();
+    info->string = "<b>bold</b>";
+    m_model->setNode(info);
+    const QString tip =
+        m_model->index(0, HostFieldModel::ValueColumn).data(Qt::ToolTipRole).toString();
+    QTextDocument document;
+    document.setHtml(tip);
+    QCOMPARE(document.toPlainText(), QString("\"<b>bold</b>\""));
+    info->unref();
+}
+
 void tst_HostFieldModel::aChangeIsAnnouncedWhenTheQueueRuns()
 {
     QSignalSpy changed(m_model.get(), SIGNAL(dataChanged(QModelIndex, QModelIndex)));
@@ -160,6 +217,17 @@ void tst_HostFieldModel::theDeathOfTheNodeEmptiesTheModelAtOnce()
     QVERIFY(!m_model->node());
 }
 
+void tst_HostFieldModel::itsDeathIsTold()
+{
+    QSignalSpy gone(m_model.get(), SIGNAL(nodeGone()));
+    m_model->setNode(nullptr);
+    m_model->setNode(m_cone);
+    QCOMPARE(gone.count(), 0);
+    m_cone->unref();
+    m_cone = nullptr;
+    QCOMPARE(gone.count(), 1);
+}
+
 void tst_HostFieldModel::fieldsOfAnUnknownNodeAreListed()
 {
     const char scene[] = "#Inventor V2.1 ascii\n"
@@ -176,6 +244,100 @@ void tst_HostFieldModel::fieldsOfAnUnknownNodeAreListed()
     QCOMPARE(text(0, HostFieldModel::ValueColumn), QString("3.5"));
     QCOMPARE(text(1, HostFieldModel::ValueColumn), QString("[2] \"a\", \"b\""));
     root->unref();
+    QCOMPARE(m_model->rowCount(), 0);
+}
+
+void tst_HostFieldModel::theFilterLooksIntoNameTypeAndValue_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<QStringList>("shown");
+    QTest::newRow("name") << "RAD" << QStringList{"bottomRadius"};
+    QTest::newRow("type") << "float" << QStringList{"bottomRadius", "height"};
+    QTest::newRow("value") << "bottom)" << QStringList{"parts"};
+    QTest::newRow("name and value") << "Bottom" << QStringList{"bottomRadius", "parts"};
+    QTest::newRow("pattern signs are letters") << ".*" << QStringList();
+    QTest::newRow("not across the columns") << "heightSF" << QStringList();
+}
+
+void tst_HostFieldModel::theFilterLooksIntoNameTypeAndValue()
+{
+    QFETCH(QString, filter);
+    QFETCH(QStringList, shown);
+    m_model->setFilter(filter);
+    QCOMPARE(names(), shown);
+}
+
+void tst_HostFieldModel::anEmptyFilterListsAllAgain()
+{
+    m_model->setFilter("height");
+    m_model->setFilter("");
+    QCOMPARE(m_model->rowCount(), 3);
+}
+
+void tst_HostFieldModel::theFilterHoldsForTheNextNode()
+{
+    m_model->setFilter("height");
+    auto* cube = new SoCube;
+    cube->ref();
+    m_model->setNode(cube);
+    QCOMPARE(names(), QStringList{"height"});
+    QCOMPARE(m_model->field(0), static_cast<SoField*>(&cube->height));
+    cube->unref();
+}
+
+void tst_HostFieldModel::aFieldThatIsFilteredOutHasNoRow()
+{
+    m_model->setFilter("height");
+    QCOMPARE(m_model->row(&m_cone->height), 0);
+    QCOMPARE(m_model->row(&m_cone->parts), -1);
+    QVERIFY(!m_model->field(1));
+}
+
+void tst_HostFieldModel::aChangedValueIsFilteredAnew()
+{
+    m_model->setFilter("42");
+    QCOMPARE(names(), QStringList());
+    m_cone->height = 42;
+    SoDB::getSensorManager()->processDelayQueue(TRUE);
+    QCOMPARE(names(), QStringList{"height"});
+    m_cone->height = 7;
+    SoDB::getSensorManager()->processDelayQueue(TRUE);
+    QCOMPARE(names(), QStringList());
+}
+
+void tst_HostFieldModel::aChangedMasterIsFilteredAnew()
+{
+    auto* cube = new SoCube;
+    cube->ref();
+    m_cone->height.connectFrom(&cube->width);
+    m_model->setFilter("42");
+    QCOMPARE(names(), QStringList());
+    cube->width = 42;
+    SoDB::getSensorManager()->processDelayQueue(TRUE);
+    QCOMPARE(names(), QStringList{"height"});
+    m_cone->height.disconnect();
+    cube->unref();
+}
+
+void tst_HostFieldModel::aChangeThatMovesNoRowResetsNothing()
+{
+    m_model->setFilter("height");
+    QSignalSpy reset(m_model.get(), SIGNAL(modelReset()));
+    m_cone->height = 42;
+    SoDB::getSensorManager()->processDelayQueue(TRUE);
+    QCOMPARE(reset.count(), 0);
+    QCOMPARE(text(0, HostFieldModel::ValueColumn), QString("42"));
+}
+
+void tst_HostFieldModel::aFilteredNodeMayDie()
+{
+    m_model->setFilter("2");
+    m_cone->height = 42;
+    m_cone->unref();
+    m_cone = nullptr;
+    QCOMPARE(m_model->rowCount(), 0);
+    SoDB::getSensorManager()->processDelayQueue(TRUE);
+    m_model->setFilter("");
     QCOMPARE(m_model->rowCount(), 0);
 }
 

@@ -3,6 +3,7 @@
 #include "app/AppRobot.h"
 #include "app/AppSceneView.h"
 
+#include "lib/HostFieldModel.h"
 #include "lib/HostSettings.h"
 
 #include <Inventor/SoPath.h>

@@ -62,8 +62,8 @@ bool AppTour::run()
 {
     if (!m_folder.mkpath(QStringLiteral(".")))
         return fail(QStringLiteral("the folder %1 cannot be made").arg(m_folder.path()));
-    const bool passed =
-        waitForScene() && editVector() && undoEdit() && ignoreField() && undoIgnore();
+    const bool passed = waitForScene() && filterFields() && editVector() && undoEdit() &&
+                        ignoreField() && undoIgnore();
     if (passed)
         m_message = QStringLiteral("the tour wrote %1 pictures into %2")
                         .arg(QString::number(m_pictures), m_folder.absolutePath());
@@ -81,6 +81,25 @@ bool AppTour::waitForScene()
         return fail(QStringLiteral("the scene was not drawn"));
     AppRobot::wait(300);
     return take("scene");
+}
+
+bool AppTour::filterFields()
+{
+    if (!selectNode("Transform") && !selectNode("Translation"))
+        return fail(QStringLiteral("no Transform in the scene"));
+    auto* line = visibleChild<QLineEdit>(m_window, "fieldFilter");
+    auto* table = visibleChild<QTableView>(m_window, "fieldView");
+    if (!line || !table)
+        return fail(QStringLiteral("no list of fields"));
+    AppRobot::click(*line);
+    AppRobot::type(QStringLiteral("vec3"));
+    AppRobot::wait(300);
+    if (!take("fields-filtered"))
+        return false;
+    const int found = table->model()->rowCount();
+    AppRobot::press(Qt::Key_Escape);
+    return (found > 0 && line->text().isEmpty()) ||
+           fail(QStringLiteral("the fields were not filtered"));
 }
 
 bool AppTour::editVector()

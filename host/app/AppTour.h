@@ -31,6 +31,7 @@ private:
     };
 
     bool waitForScene();
+    bool filterFields();
     bool editVector();
     bool undoEdit();
     bool ignoreField();

@@ -12,7 +12,7 @@ namespace {
 const char* const GeometryKey = "window/geometry";
 const char* const StateKey = "window/state";
 /** To be raised when the host's own docks change so that a saved arrangement fits no longer. */
-constexpr int StateVersion = 1;
+constexpr int StateVersion = 2;
 
 } // namespace
 
@@ -48,8 +48,10 @@ void HostLayout::reset()
             inUse.append(dock);
     m_window.restoreState(m_initial, StateVersion);
     // The initial state was taken while nothing was selected.
-    for (QDockWidget* dock : inUse)
+    for (QDockWidget* dock : inUse) {
         dock->show();
+        dock->raise();
+    }
     hideEmptyDocks();
 }
 

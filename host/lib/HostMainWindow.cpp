@@ -23,8 +23,15 @@ namespace {
 constexpr QSize PreferredSize(1600, 1000);
 /** What the window manager's frame takes, roughly; it is not known before the window is shown. */
 constexpr QSize FrameSize(16, 48);
-constexpr int LeftPercent = 30;
-constexpr int RightPercent = 20;
+
+/** What the docks at the sides take of the window's width at first. */
+struct Percents
+{
+    int left;
+    int right;
+};
+constexpr Percents WithNodeDock = {25, 30};
+constexpr Percents WithoutNodeDock = {30, 20};
 
 QString droppedFile(const QMimeData& data)
 {
@@ -35,10 +42,10 @@ QString droppedFile(const QMimeData& data)
 } // namespace
 
 HostMainWindow::HostMainWindow()
-    : m_shell(*this), m_plugins(m_pluginsManager), m_browser(m_services), m_fileMenu(m_scene, this),
-      m_layout(*this, m_shell), m_undoKeys(*this),
-      m_fieldWatch(&HostMainWindow::fieldChanged, this), m_viewMenu(*this, m_shell),
-      m_helpMenu(this)
+    : m_shell(*this), m_defaults(m_services), m_plugins(m_pluginsManager), m_browser(m_services),
+      m_fileMenu(m_scene, this), m_layout(*this, m_shell), m_editorDocks(*this, m_shell),
+      m_undoKeys(*this), m_fieldWatch(&HostMainWindow::fieldChanged, this),
+      m_viewMenu(*this, m_shell), m_helpMenu(this)
 {
     setObjectName(QStringLiteral("HostMainWindow"));
     setAcceptDrops(true);
@@ -47,6 +54,7 @@ HostMainWindow::HostMainWindow()
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resize(PreferredSize.boundedTo(screen()->availableSize() - FrameSize));
     m_fieldWatch.setPriority(0);
+    m_pluginsManager.adopt(m_defaults);
     buildDocks();
     buildMenus();
     connectParts();
@@ -62,6 +70,7 @@ HostMainWindow::~HostMainWindow()
     m_fieldWatch.detach();
     m_browser.setRoot(nullptr);
     m_plugins.release();
+    m_pluginsManager.release(m_defaults);
     m_services.undoStack().clear();
     m_plugins.unload();
 }
@@ -118,6 +127,8 @@ void HostMainWindow::connectParts()
     connect(&m_scene, SIGNAL(modifiedChanged(bool)), SLOT(updateTitle()));
     connect(&m_services, SIGNAL(selectedFieldChanged(SoField*)),
             SLOT(s_selectedFieldChanged(SoField*)));
+    connect(&m_services, SIGNAL(selectedFieldChanged(SoField*)), &m_editorDocks,
+            SLOT(s_selectedFieldChanged(SoField*)));
     connect(&m_services.undoStack(), SIGNAL(edited()), SLOT(s_edited()));
     connect(&m_browser, SIGNAL(nodeSelected(const SoPath*)), SIGNAL(nodeSelected(const SoPath*)));
     connect(&m_fileMenu, SIGNAL(saved()), SLOT(s_saved()));
@@ -168,8 +179,10 @@ void HostMainWindow::arrange()
     auto* scene = findChild<QDockWidget*>(QStringLiteral("sceneDock"));
     auto* fields = findChild<QDockWidget*>(QStringLiteral("fieldsDock"));
     auto* history = findChild<QDockWidget*>(QStringLiteral("historyDock"));
-    addDockWidget(Qt::RightDockWidgetArea, history); // below what the plug-ins have put there
-    resizeDocks({scene, history}, {width() * LeftPercent / 100, width() * RightPercent / 100},
+    const bool isNodeDockThere = m_editorDocks.arrange(*history);
+    fields->setVisible(!isNodeDockThere); // or the same list would be there twice
+    const Percents& percents = isNodeDockThere ? WithNodeDock : WithoutNodeDock;
+    resizeDocks({scene, history}, {width() * percents.left / 100, width() * percents.right / 100},
                 Qt::Horizontal);
     resizeDocks({scene, fields}, {3, 2}, Qt::Vertical);
 }

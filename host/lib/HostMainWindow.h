@@ -1,6 +1,8 @@
 #pragma once
 
 #include "lib/HostBrowser.h"
+#include "lib/HostDefaults.h"
+#include "lib/HostEditorDocks.h"
 #include "lib/HostFileMenu.h"
 #include "lib/HostHelpMenu.h"
 #include "lib/HostLayout.h"
@@ -18,8 +20,10 @@
 
 /**
  * The inspector's window: menus, the scene tree, the list of the selected node's fields, the undo
- * history, and the docks and tool bars of the plug-ins. The 3D view is the program's own: it is
- * given with setView(), so that the library needs no GUI binding of Coin.
+ * history, and the docks and tool bars of the plug-ins. Where a plug-in has a dock for node editors
+ * the list of fields is in that dock, and the window's own dock for it is closed at first. The 3D
+ * view is the program's own: it is given with setView(), so that the library needs no GUI binding
+ * of Coin.
  */
 class TAVRIKHOST_EXPORT HostMainWindow : public QMainWindow
 {
@@ -94,10 +98,12 @@ private:
     HostServices m_services;
     HostShell m_shell;
     HostPluginsManager m_pluginsManager;
+    HostDefaults m_defaults;
     HostPluginFolder m_plugins;
     HostBrowser m_browser;
     HostFileMenu m_fileMenu;
     HostLayout m_layout;
+    HostEditorDocks m_editorDocks;
     HostUndoKeys m_undoKeys;
     SoFieldSensor m_fieldWatch; ///< for edits that push no command
     HostViewMenu m_viewMenu;

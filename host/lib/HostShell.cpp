@@ -53,6 +53,7 @@ void HostShell::addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area)
     m_window.addDockWidget(area, dock);
     dock->setHidden(hidden);
     remember(m_docks, dock);
+    m_addedLast = dock;
 }
 
 void HostShell::removeDockWidget(QDockWidget* dock)
@@ -66,6 +67,10 @@ void HostShell::removeDockWidget(QDockWidget* dock)
 
 void HostShell::registerExtension(TvkExtension* extension, bool active)
 {
+    // An extension adds its dock, then registers.
+    if (extension && m_addedLast)
+        m_dockOf[extension] = m_addedLast;
+    m_addedLast = nullptr;
     if (extension && active)
         remember(m_active, extension);
     else
@@ -75,6 +80,7 @@ void HostShell::registerExtension(TvkExtension* extension, bool active)
 void HostShell::unregisterExtension(TvkExtension* extension)
 {
     forget(m_active, extension);
+    m_dockOf.erase(extension);
 }
 
 void HostShell::addToolBar(QToolBar* toolBar, Qt::ToolBarArea area)
@@ -105,6 +111,16 @@ std::vector<TvkExtension*> HostShell::activeExtensions() const
 std::vector<QDockWidget*> HostShell::docks() const
 {
     return living(m_docks);
+}
+
+QDockWidget* HostShell::dockWithSlot(const char* signature) const
+{
+    for (const TvkExtension* extension : activeExtensions()) {
+        const auto found = m_dockOf.find(extension);
+        if (found != m_dockOf.end() && extension->metaObject()->indexOfSlot(signature) >= 0)
+            return found->second;
+    }
+    return nullptr;
 }
 
 std::vector<QToolBar*> HostShell::toolBars() const

@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QToolBar>
 
+#include <map>
 #include <vector>
 
 class QMainWindow;
@@ -35,6 +36,11 @@ public:
     std::vector<TvkExtension*> activeExtensions() const;
     /** The docks that extensions have added, in order. Not owned. */
     std::vector<QDockWidget*> docks() const;
+    /**
+     * The dock of the first active extension that has a slot of this signature, such as
+     * "s_selectedFieldChanged(SoField*)"; null when there is none. Not owned.
+     */
+    QDockWidget* dockWithSlot(const char* signature) const;
     /** The tool bars that extensions have added, in order. Not owned. */
     std::vector<QToolBar*> toolBars() const;
 
@@ -43,6 +49,8 @@ private:
 
     QMainWindow& m_window;
     std::vector<QPointer<TvkExtension>> m_active;
+    std::map<const TvkExtension*, QPointer<QDockWidget>> m_dockOf; ///< for looking up only
+    QPointer<QDockWidget> m_addedLast; ///< of the extension that registers next
     std::vector<QPointer<QDockWidget>> m_docks;
     std::vector<QPointer<QToolBar>> m_toolBars;
 };

@@ -55,8 +55,10 @@ void TvkEditorDock::deactivate()
 void TvkEditorDock::show()
 {
     TvkExtension::show();
-    if (m_dock)
-        m_dock->show();
+    if (!m_dock)
+        return;
+    m_dock->show();
+    m_dock->raise(); // it may share its place with others
 }
 
 void TvkEditorDock::hide()

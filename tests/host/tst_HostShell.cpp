@@ -7,6 +7,20 @@
 
 #include <memory>
 
+class SoFieldContainer;
+
+/** Follows the selected node, as the docks for editors do. */
+class FollowingExtension : public RecordingExtension
+{
+    Q_OBJECT
+
+public:
+    using RecordingExtension::RecordingExtension;
+
+public slots:
+    void s_selectedNodeChanged(SoFieldContainer*) {}
+};
+
 class tst_HostShell : public QObject
 {
     Q_OBJECT
@@ -41,6 +55,8 @@ private slots:
     void anExtensionRegisteredAsInactiveIsNotActive();
     void aDestroyedExtensionIsForgotten();
     void unregisteringAnUnknownExtensionDoesNothing();
+    void aDockIsFoundByASlotOfItsExtension();
+    void aDockOfAnUnregisteredExtensionIsNotFound();
 
 private:
     using Docks = std::vector<QDockWidget*>;
@@ -281,6 +297,33 @@ void tst_HostShell::unregisteringAnUnknownExtensionDoesNothing()
     m_shell->registerExtension(&known, true);
     m_shell->unregisterExtension(&unknown);
     QCOMPARE(m_shell->activeExtensions(), Extensions{&known});
+}
+
+void tst_HostShell::aDockIsFoundByASlotOfItsExtension()
+{
+    QDockWidget other;
+    QDockWidget dock;
+    RecordingExtension bystander("bystander", m_log);
+    FollowingExtension follower("follower", m_log);
+    m_shell->addDockWidget(&other, Qt::RightDockWidgetArea);
+    m_shell->registerExtension(&bystander, true);
+    m_shell->addDockWidget(&dock, Qt::RightDockWidgetArea);
+    m_shell->registerExtension(&follower, true);
+    QCOMPARE(m_shell->dockWithSlot("s_selectedNodeChanged(SoFieldContainer*)"), &dock);
+    QCOMPARE(m_shell->dockWithSlot("s_selectedFieldChanged(SoField*)"), nullptr);
+}
+
+void tst_HostShell::aDockOfAnUnregisteredExtensionIsNotFound()
+{
+    QDockWidget dock;
+    FollowingExtension follower("follower", m_log);
+    m_shell->addDockWidget(&dock, Qt::RightDockWidgetArea);
+    m_shell->registerExtension(&follower, true);
+    m_shell->removeDockWidget(&dock);
+    m_shell->unregisterExtension(&follower);
+    QCOMPARE(m_shell->dockWithSlot("s_selectedNodeChanged(SoFieldContainer*)"), nullptr);
+    m_shell->registerExtension(&follower, true); // a tool bar's would have none either
+    QCOMPARE(m_shell->dockWithSlot("s_selectedNodeChanged(SoFieldContainer*)"), nullptr);
 }
 
 TAVRIK_TEST_MAIN(tst_HostShell)

@@ -123,7 +123,7 @@ void tst_Program::theTourWritesAPictureOfEachStep()
     // At its end, every editor in two palettes, and a sheet of each.
     QCOMPARE(QDir(folder + "/editors").entryList({"*.png"}).size(), 2 * (41 + 1));
     const QStringList pictures = QDir(folder).entryList({"*.png"});
-    QCOMPARE(pictures.size(), 9);
+    QCOMPARE(pictures.size(), 10);
     QImage last;
     for (const QString& name : pictures) {
         const QImage picture(QDir(folder).filePath(name));

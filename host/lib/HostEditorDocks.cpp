@@ -29,19 +29,21 @@ bool HostEditorDocks::arrange(QDockWidget& history)
 
 void HostEditorDocks::s_selectedFieldChanged(SoField*)
 {
-    if (!m_nodeDock || !m_nodeDock->isVisible() || m_nodeDock->isFloating())
+    const QDockWidget* const dock = m_nodeDock;
+    if (!dock || !dock->isVisible() || dock->isFloating())
         return;
-    m_height = m_nodeDock->height();
+    m_height = dock->height();
     // By then the docks have found their new places.
     QTimer::singleShot(0, this, SLOT(restoreHeight()));
 }
 
 void HostEditorDocks::restoreHeight()
 {
-    if (!m_nodeDock || !m_history || m_nodeDock->isFloating())
+    QDockWidget* const dock = m_nodeDock;
+    QDockWidget* const history = m_history;
+    if (!dock || !history || dock->isFloating())
         return;
     // What one is to have more the other must have less, or both come out differently.
-    const int less = m_height - m_nodeDock->height();
-    m_window.resizeDocks({m_nodeDock, m_history}, {m_height, m_history->height() - less},
-                         Qt::Vertical);
+    const int more = m_height - dock->height();
+    m_window.resizeDocks({dock, history}, {m_height, history->height() - more}, Qt::Vertical);
 }

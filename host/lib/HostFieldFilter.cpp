@@ -10,19 +10,35 @@ void HostFieldFilter::setText(const QString& text)
 {
     m_text = text;
     if (text.isEmpty())
-        forgetAll();
+        setCount(int(m_texts.size()));
 }
 
-bool HostFieldFilter::accepts(SoField& field, const QString& name)
+void HostFieldFilter::setCount(int count)
 {
-    return m_text.isEmpty() || isIn(name) ||
-           isIn(HostText::fromCoin(field.getTypeId().getName())) || isIn(value(field));
+    m_texts.assign(size_t(count), {});
 }
 
-const QString& HostFieldFilter::value(SoField& field)
+void HostFieldFilter::forgetValue(int index)
 {
-    const auto [found, isNew] = m_values.try_emplace(&field);
-    if (isNew)
-        found->second = HostFieldSummary::text(field);
-    return found->second;
+    m_texts[size_t(index)].isValueRead = false;
+}
+
+HostFieldFilter::Answer HostFieldFilter::accepts(int index, SoField& field, const Naming& name)
+{
+    if (m_text.isEmpty())
+        return Yes;
+    Texts& texts = m_texts[size_t(index)];
+    // A line that is typed into holds no line breaks: nothing is found across this one.
+    if (texts.head.isEmpty())
+        texts.head = name(index) + '\n' + HostText::fromCoin(field.getTypeId().getName());
+    if (isIn(texts.head))
+        return Yes;
+    if (!texts.isValueRead) {
+        if (m_readsLeft <= 0)
+            return Unread;
+        --m_readsLeft;
+        texts.value = HostFieldSummary::text(field);
+        texts.isValueRead = true;
+    }
+    return isIn(texts.value) ? Yes : No;
 }

@@ -11,10 +11,14 @@
 #include <Inventor/nodes/SoNode.h>
 
 #include <QTextDocument>
+#include <QTimerEvent>
 
 #include <algorithm>
 
 namespace {
+
+/** Of values for the filter, in one turn of the event loop: some milliseconds' work. */
+constexpr int ReadsAtOnce = 128;
 
 std::vector<SoField*> fieldsOf(const SoNode* node)
 {
@@ -102,12 +106,12 @@ void HostFieldModel::reset(SoNode* node)
     // Already empty while the reset is announced: nobody may touch the fields of a dying node.
     m_fields.clear();
     m_rows.clear();
-    m_filter.forgetAll();
     m_sensor.takeChanged();
     m_node = nullptr;
     beginResetModel();
     m_node = node;
     m_fields = fieldsOf(node);
+    m_filter.setCount(int(m_fields.size()));
     m_rows = acceptedFields();
     endResetModel();
 }
@@ -119,12 +123,16 @@ void HostFieldModel::nodeChanged(void* model, SoSensor*)
 
 void HostFieldModel::refresh()
 {
-    for (const SoField* field : m_sensor.takeChanged())
-        m_filter.forget(field);
+    const HostFieldsSensor::Fields changed = m_sensor.takeChanged();
     // A node of a type that Coin does not know may be given more fields at any time.
-    if (fieldsOf(m_node) != m_fields)
+    if (fieldsOf(m_node) != m_fields) {
         reset(m_node);
-    else if (!updateRows() && !m_rows.empty())
+        return;
+    }
+    for (int i = 0; i < int(m_fields.size()); ++i)
+        if (changed.count(m_fields[size_t(i)]) > 0)
+            m_filter.forgetValue(i);
+    if (!updateRows() && !m_rows.empty())
         emit dataChanged(index(0, ValueColumn), index(rowCount() - 1, ConnectedColumn));
 }
 
@@ -143,10 +151,28 @@ bool HostFieldModel::updateRows()
 std::vector<int> HostFieldModel::acceptedFields()
 {
     std::vector<int> accepted;
-    for (int i = 0; i < int(m_fields.size()); ++i)
-        if (m_filter.accepts(*m_fields[size_t(i)], name(i)))
+    bool isUnread = false;
+    const HostFieldFilter::Naming naming = [this](int index) { return name(index); };
+    m_filter.allowReads(ReadsAtOnce);
+    for (int i = 0; i < int(m_fields.size()); ++i) {
+        const auto answer = m_filter.accepts(i, *m_fields[size_t(i)], naming);
+        isUnread = isUnread || answer == HostFieldFilter::Unread;
+        if (answer == HostFieldFilter::Yes)
             accepted.push_back(i);
+    }
+    if (isUnread)
+        m_readOn.start(0, this);
+    else
+        m_readOn.stop();
     return accepted;
+}
+
+void HostFieldModel::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == m_readOn.timerId())
+        updateRows();
+    else
+        QAbstractTableModel::timerEvent(event);
 }
 
 /** The container would look for the field among all of its fields. */

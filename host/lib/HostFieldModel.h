@@ -6,6 +6,7 @@
 #include "lib/HostFieldsSensor.h"
 
 #include <QAbstractTableModel>
+#include <QBasicTimer>
 
 #include <vector>
 
@@ -40,7 +41,10 @@ public:
     /** Shows another node's fields; null shows none. Not referenced. */
     void setNode(SoNode* node);
     SoNode* node() const { return m_node; }
-    /** Shows only the fields with this piece in name, type or value, in whatever case. */
+    /**
+     * Shows only the fields with this piece in name, type or value, in whatever case. Where many
+     * values have to be read for that, the fields that they bring appear from the event loop.
+     */
     void setFilter(const QString& text);
     /** The field of a row; null when there is none. */
     SoField* field(int row) const;
@@ -53,6 +57,9 @@ public:
     /** The last three columns are narrow: their titles are letters, told in full as tool tips. */
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
+
+protected:
+    void timerEvent(QTimerEvent* event) override;
 
 signals:
     /** The node has died; the model is empty by now. */
@@ -72,6 +79,7 @@ private:
 
     HostFieldsSensor m_sensor;
     HostFieldFilter m_filter;
+    QBasicTimer m_readOn;           ///< runs while the filter has values left to read
     SoNode* m_node = nullptr;       ///< not owned, not referenced
     std::vector<SoField*> m_fields; ///< the node's own, in the order of declaration
     std::vector<int> m_rows;        ///< which of them the filter lets through

@@ -48,10 +48,13 @@ private slots:
     void aChangedMasterIsFilteredAnew();
     void aChangeThatMovesNoRowResetsNothing();
     void aFilteredNodeMayDie();
+    void manyValuesAreReadFromTheEventLoop();
+    void aNodeWithManyUnreadValuesMayDie();
 
 private:
     QString text(int row, HostFieldModel::Column column) const;
     QStringList names() const;
+    static SoNode* bigNode(int count);
 
     SoCone* m_cone = nullptr;
     std::unique_ptr<HostFieldModel> m_model;
@@ -338,6 +341,51 @@ void tst_HostFieldModel::aFilteredNodeMayDie()
     QCOMPARE(m_model->rowCount(), 0);
     SoDB::getSensorManager()->processDelayQueue(TRUE);
     m_model->setFilter("");
+    QCOMPARE(m_model->rowCount(), 0);
+}
+
+/** A node with this many fields, referenced. */
+SoNode* tst_HostFieldModel::bigNode(int count)
+{
+    QByteArray types;
+    QByteArray values;
+    for (int i = 0; i < count; ++i) {
+        const QByteArray name = "f" + QByteArray::number(i);
+        types += QByteArray(i > 0 ? ", " : "") + "SFString " + name;
+        values += name + " \"text\"\n";
+    }
+    const QByteArray scene =
+        "#Inventor V2.1 ascii\nGadget { fields [ " + types + " ]\n" + values + "}\n";
+    SoInput input;
+    input.setBuffer(scene.constData(), size_t(scene.size()));
+    SoSeparator* root = SoDB::readAll(&input);
+    root->ref();
+    SoNode* node = root->getChild(0);
+    node->ref();
+    root->unref();
+    return node;
+}
+
+void tst_HostFieldModel::manyValuesAreReadFromTheEventLoop()
+{
+    SoNode* node = bigNode(1000);
+    m_model->setNode(node);
+    m_model->setFilter("text");
+    QVERIFY(m_model->rowCount() < 1000);
+    QTRY_COMPARE(m_model->rowCount(), 1000);
+    m_model->setFilter("f99");
+    QCOMPARE(m_model->rowCount(), 11);
+    node->unref();
+}
+
+void tst_HostFieldModel::aNodeWithManyUnreadValuesMayDie()
+{
+    SoNode* node = bigNode(1000);
+    m_model->setNode(node);
+    m_model->setFilter("text");
+    node->unref();
+    QCOMPARE(m_model->rowCount(), 0);
+    QTest::qWait(20);
     QCOMPARE(m_model->rowCount(), 0);
 }
 

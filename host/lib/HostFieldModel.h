@@ -18,7 +18,8 @@ class SoSensor;
  * The fields of one node: name, type, value in short, and whether the field is at its default, is
  * ignored, is connected. Follows the node's changes when Coin's delay queue runs; holds no
  * reference to it, and is empty as soon as it dies. A value is read only when a view or the filter
- * asks for its row.
+ * asks for its row. Coin tells nobody that a connection is cut: that mark goes with the next change
+ * of the node, or when its row is drawn anew.
  */
 class TAVRIKHOST_EXPORT HostFieldModel : public QAbstractTableModel
 {

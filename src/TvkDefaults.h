@@ -43,6 +43,7 @@
 #include "FieldEditors/SFWidgets/DvSFVec4fWidget.h"
 #include "FieldEditors/TvkFieldEditorDockWin.h"
 #include "FieldEditors/TvkNodeEditor.h"
+#include "ProfileSelector/TvkProfileSelectorExtension.h"
 
 #include <TvkPlugin.h>
 
@@ -57,6 +58,7 @@ public:
 
 private:
     // In order of construction. The docks choose among the editors in this order.
+    TvkProfileSelectorExtension m_profileSelector;
     DvMFColorWidget m_mfColorWidget;
     DvMFDefaultFieldWidget m_mfDefaultFieldWidget;
     DvMFDoubleWidget m_mfDoubleWidget;

@@ -14,21 +14,55 @@ namespace {
 
 /** In order of construction: the docks choose among the editors in this order. */
 const char* const s_constructed[] = {
-    "DvMFColorWidget",  "DvMFDefaultFieldWidget", "DvMFDoubleWidget", "DvMFFloatWidget",
-    "DvMFInt32Widget",  "DvMFMatrixWidget",       "DvMFPlaneWidget",  "DvMFRotationWidget",
-    "DvMFShortWidget",  "DvMFStringWidget",       "DvMFUInt32Widget", "DvMFUShortWidget",
-    "DvMFVec2fWidget",  "DvMFVec2i32Widget",      "DvMFVec2sWidget",  "DvMFVec3fWidget",
-    "DvMFVec4fWidget",  "DvSFBitMaskWidget",      "DvSFBoolWidget",   "DvSFBox3sWidget",
-    "DvSFColorWidget",  "DvSFEnumWidget",         "DvSFDoubleWidget", "DvSFFilePathStringWidget",
-    "DvSFFloatWidget",  "DvSFImageWidget",        "DvSFInt32Widget",  "DvSFLineWidget",
-    "DvSFMatrixWidget", "DvSFNameWidget",         "DvSFPlaneWidget",  "DvSFRotationWidget",
-    "DvSFShortWidget",  "DvSFStringWidget",       "DvSFUInt32Widget", "DvSFUShortWidget",
-    "DvSFVec2fWidget",  "DvSFVec2i32Widget",      "DvSFVec2sWidget",  "DvSFVec3fWidget",
-    "DvSFVec4fWidget",  "TvkFieldEditorDockWin",  "TvkNodeEditor",
+    "TvkProfileSelectorExtension",
+    "DvMFColorWidget",
+    "DvMFDefaultFieldWidget",
+    "DvMFDoubleWidget",
+    "DvMFFloatWidget",
+    "DvMFInt32Widget",
+    "DvMFMatrixWidget",
+    "DvMFPlaneWidget",
+    "DvMFRotationWidget",
+    "DvMFShortWidget",
+    "DvMFStringWidget",
+    "DvMFUInt32Widget",
+    "DvMFUShortWidget",
+    "DvMFVec2fWidget",
+    "DvMFVec2i32Widget",
+    "DvMFVec2sWidget",
+    "DvMFVec3fWidget",
+    "DvMFVec4fWidget",
+    "DvSFBitMaskWidget",
+    "DvSFBoolWidget",
+    "DvSFBox3sWidget",
+    "DvSFColorWidget",
+    "DvSFEnumWidget",
+    "DvSFDoubleWidget",
+    "DvSFFilePathStringWidget",
+    "DvSFFloatWidget",
+    "DvSFImageWidget",
+    "DvSFInt32Widget",
+    "DvSFLineWidget",
+    "DvSFMatrixWidget",
+    "DvSFNameWidget",
+    "DvSFPlaneWidget",
+    "DvSFRotationWidget",
+    "DvSFShortWidget",
+    "DvSFStringWidget",
+    "DvSFUInt32Widget",
+    "DvSFUShortWidget",
+    "DvSFVec2fWidget",
+    "DvSFVec2i32Widget",
+    "DvSFVec2sWidget",
+    "DvSFVec3fWidget",
+    "DvSFVec4fWidget",
+    "TvkFieldEditorDockWin",
+    "TvkNodeEditor",
 };
 
-/** In order of registration, and the field type of each; the docks have none. */
+/** In order of registration, and the field type of each; only editors have one. */
 const std::pair<const char*, const char*> s_registered[] = {
+    {"TvkProfileSelectorExtension", ""},
     {"DvMFColorWidget", "MFColor"},
     {"DvMFDefaultFieldWidget", "MField"},
     {"DvMFDoubleWidget", "MFDouble"},
@@ -190,7 +224,7 @@ private slots:
         TvkPlugin* const plugin = m_load();
         plugin->load();
         const QStringList names = namesOf(plugin->getExtensions());
-        QCOMPARE(names.mid(2, 3),
+        QCOMPARE(names.mid(3, 3),
                  QStringList({"DvMFDoubleWidget", "DvSFFilePathStringWidget", "DvMFFloatWidget"}));
         m_unload();
     }

@@ -65,6 +65,17 @@ void HostServices::selectField(SoField* field)
     announceField();
 }
 
+void HostServices::announceSelection()
+{
+    SoNode* const node = m_node;
+    const NodeHold hold(node);
+    SoField* const field = m_field;
+    announceNode();
+    // A listener may have selected something else, and that has been announced then.
+    if (m_node == node && m_field == field)
+        announceField();
+}
+
 /** Never touches the field: it may be one that a listener has kept beyond its life. */
 bool HostServices::isOwnField(const SoField* field) const
 {

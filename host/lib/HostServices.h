@@ -35,6 +35,8 @@ public:
      * field that is none of the selected node's counts as null: it might be a dead one's.
      */
     void selectField(SoField* field);
+    /** Says once more what is selected, for those who have begun to listen since. */
+    void announceSelection();
     SoNode* selectedNode() const { return m_node; }
     SoField* selectedField() const { return m_field; }
 

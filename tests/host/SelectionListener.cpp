@@ -14,6 +14,8 @@ SelectionListener::SelectionListener(TvkServices& services)
 void SelectionListener::nodeChanged(SoFieldContainer* node)
 {
     log << QString("node ") + (node ? node->getTypeId().getName().getString() : "null");
+    if (onNode)
+        onNode(node);
 }
 
 void SelectionListener::fieldChanged(SoField* field)

@@ -19,7 +19,9 @@ public:
     explicit SelectionListener(TvkServices& services);
 
     QStringList log;
-    std::function<void(SoField*)> onField; ///< called within each announcement of a field
+    // Called within each announcement.
+    std::function<void(SoFieldContainer*)> onNode;
+    std::function<void(SoField*)> onField;
 
 private slots:
     void nodeChanged(SoFieldContainer* node);

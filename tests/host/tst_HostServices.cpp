@@ -23,6 +23,9 @@ private slots:
     void aFieldOfAnotherNodeIsNone();
     void aFieldOfADeadNodeIsNone();
     void aNodeThatNobodyReferencesSurvivesBeingSelected();
+    void theSelectionCanBeAnnouncedOnceMore();
+    void announcingNothingSaysSo();
+    void aListenerMaySelectSomethingElseDuringTheAnnouncement();
 };
 
 void tst_HostServices::theyAreTheServicesOfTheProcess()
@@ -129,6 +132,35 @@ void tst_HostServices::aNodeThatNobodyReferencesSurvivesBeingSelected()
     loose->ref();
     loose->unref();
     QCOMPARE(m_services->selectedNode(), nullptr);
+}
+
+void tst_HostServices::theSelectionCanBeAnnouncedOnceMore()
+{
+    m_services->selectNode(m_cone);
+    m_services->selectField(&m_cone->height);
+    m_listener->log.clear();
+    m_services->announceSelection();
+    QCOMPARE(m_listener->log, (QStringList{"node Cone", "field SFFloat"}));
+    QCOMPARE(m_services->selectedField(), &m_cone->height);
+}
+
+void tst_HostServices::announcingNothingSaysSo()
+{
+    m_services->announceSelection();
+    QCOMPARE(m_listener->log, (QStringList{"node null", "field null"}));
+}
+
+void tst_HostServices::aListenerMaySelectSomethingElseDuringTheAnnouncement()
+{
+    m_services->selectNode(m_cone);
+    m_services->selectField(&m_cone->height);
+    m_listener->log.clear();
+    m_listener->onNode = [this](SoFieldContainer*) {
+        m_listener->onNode = nullptr;
+        m_services->selectNode(nullptr);
+    };
+    m_services->announceSelection();
+    QCOMPARE(m_listener->log, (QStringList{"node Cone", "field null", "node null"}));
 }
 
 TAVRIK_TEST_MAIN(tst_HostServices)

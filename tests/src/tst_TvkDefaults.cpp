@@ -233,7 +233,7 @@ private slots:
     {
         TvkPlugin* const plugin = m_load();
         plugin->load();
-        QCOMPARE(plugin->getExtensions().size(), std::size_t(43));
+        QCOMPARE(plugin->getExtensions().size(), std::size_t(44));
         for (const TvkExtension* extension : plugin->getExtensions()) {
             // Each is of the class that it is named for, so none is a common base.
             QCOMPARE(QString(extension->metaObject()->className()), extension->objectName());

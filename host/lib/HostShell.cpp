@@ -54,6 +54,7 @@ void HostShell::addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area)
     dock->setHidden(hidden);
     remember(m_docks, dock);
     m_addedLast = dock;
+    m_dockAreas.insert(dock->objectName(), area);
 }
 
 void HostShell::removeDockWidget(QDockWidget* dock)
@@ -92,6 +93,7 @@ void HostShell::addToolBar(QToolBar* toolBar, Qt::ToolBarArea area)
     m_window.addToolBar(area, toolBar);
     toolBar->setHidden(hidden);
     remember(m_toolBars, toolBar);
+    m_toolBarAreas.insert(toolBar->objectName(), area);
 }
 
 void HostShell::removeToolBar(QToolBar* toolBar)
@@ -126,6 +128,16 @@ QDockWidget* HostShell::dockWithSlot(const char* signature) const
 std::vector<QToolBar*> HostShell::toolBars() const
 {
     return living(m_toolBars);
+}
+
+Qt::DockWidgetArea HostShell::area(const QDockWidget& dock) const
+{
+    return m_dockAreas.value(dock.objectName(), Qt::RightDockWidgetArea);
+}
+
+Qt::ToolBarArea HostShell::area(const QToolBar& toolBar) const
+{
+    return m_toolBarAreas.value(toolBar.objectName(), Qt::TopToolBarArea);
 }
 
 void HostShell::makeSaveable(QWidget& widget) const

@@ -6,6 +6,7 @@
 #include <TvkShell.h>
 
 #include <QDockWidget>
+#include <QHash>
 #include <QPointer>
 #include <QToolBar>
 
@@ -43,6 +44,9 @@ public:
     QDockWidget* dockWithSlot(const char* signature) const;
     /** The tool bars that extensions have added, in order. Not owned. */
     std::vector<QToolBar*> toolBars() const;
+    /** Where an extension has put a dock or tool bar of these, wherever it stands now. */
+    Qt::DockWidgetArea area(const QDockWidget& dock) const;
+    Qt::ToolBarArea area(const QToolBar& toolBar) const;
 
 private:
     void makeSaveable(QWidget& widget) const;
@@ -53,4 +57,7 @@ private:
     QPointer<QDockWidget> m_addedLast; ///< of the extension that registers next
     std::vector<QPointer<QDockWidget>> m_docks;
     std::vector<QPointer<QToolBar>> m_toolBars;
+    // By object name, which outlives its owner.
+    QHash<QString, Qt::DockWidgetArea> m_dockAreas;
+    QHash<QString, Qt::ToolBarArea> m_toolBarAreas;
 };

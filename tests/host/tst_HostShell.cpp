@@ -43,6 +43,7 @@ private slots:
     void anObjectNameIsNeverChanged();
     void docksOfTheSameTitleGetDifferentNames();
     void thePlacesOfNamelessDocksAreSaved();
+    void theAreaThatAnExtensionWantedIsRemembered();
     void nullIsIgnored();
 
     void anAddedToolBarStandsInTheWindow();
@@ -201,6 +202,18 @@ void tst_HostShell::thePlacesOfNamelessDocksAreSaved()
     m_shell->addDockWidget(&dock, Qt::LeftDockWidgetArea);
     QVERIFY(m_window->restoreState(state));
     QCOMPARE(m_window->dockWidgetArea(&dock), Qt::RightDockWidgetArea);
+}
+
+void tst_HostShell::theAreaThatAnExtensionWantedIsRemembered()
+{
+    QDockWidget dock("Dock");
+    QToolBar toolBar("Bar");
+    m_shell->addDockWidget(&dock, Qt::BottomDockWidgetArea);
+    m_shell->addToolBar(&toolBar, Qt::LeftToolBarArea);
+    m_window->addDockWidget(Qt::TopDockWidgetArea, &dock);
+    m_window->addToolBar(Qt::TopToolBarArea, &toolBar);
+    QCOMPARE(m_shell->area(dock), Qt::BottomDockWidgetArea);
+    QCOMPARE(m_shell->area(toolBar), Qt::LeftToolBarArea);
 }
 
 void tst_HostShell::nullIsIgnored()

@@ -102,6 +102,7 @@ void tellWhatIsNotThere(AppWindow& window, const QString& error)
 int showWindow(const AppArguments& arguments)
 {
     AppWindow window;
+    window.restoreProfiles();
     if (arguments.plugins.isEmpty())
         window.loadPlugins(HostPluginLoader::pluginDirectory());
     else

@@ -24,15 +24,6 @@ constexpr QSize PreferredSize(1600, 1000);
 /** What the window manager's frame takes, roughly; it is not known before the window is shown. */
 constexpr QSize FrameSize(16, 48);
 
-/** What the docks at the sides take of the window's width at first. */
-struct Percents
-{
-    int left;
-    int right;
-};
-constexpr Percents WithNodeDock = {25, 30};
-constexpr Percents WithoutNodeDock = {30, 20};
-
 QString droppedFile(const QMimeData& data)
 {
     const QList<QUrl> urls = data.urls();
@@ -43,9 +34,11 @@ QString droppedFile(const QMimeData& data)
 
 HostMainWindow::HostMainWindow()
     : m_shell(*this), m_defaults(m_services), m_plugins(m_pluginsManager), m_browser(m_services),
-      m_fileMenu(m_scene, this), m_layout(*this, m_shell), m_editorDocks(*this, m_shell),
-      m_undoKeys(*this), m_fieldWatch(&HostMainWindow::fieldChanged, this),
-      m_viewMenu(*this, m_shell), m_helpMenu(this)
+      m_fileMenu(m_scene, this), m_editorDocks(*this, m_shell),
+      m_layout(*this, m_shell, m_editorDocks),
+      m_profileKeeper(m_pluginsManager, m_layout, m_services), m_undoKeys(*this),
+      m_fieldWatch(&HostMainWindow::fieldChanged, this), m_viewMenu(*this, m_shell),
+      m_profilesMenu(m_pluginsManager, this), m_helpMenu(this)
 {
     setObjectName(QStringLiteral("HostMainWindow"));
     setAcceptDrops(true);
@@ -80,21 +73,20 @@ void HostMainWindow::buildDocks()
     addDock(QStringLiteral("sceneDock"), tr("Scene"), m_browser.sceneView(),
             Qt::LeftDockWidgetArea);
     addDock(QStringLiteral("fieldsDock"), tr("Fields"), m_browser.fieldList(),
-            Qt::LeftDockWidgetArea);
+            Qt::LeftDockWidgetArea, HostLayout::NextToNodeDock::Closed);
     auto* history = new QUndoView(&m_services.undoStack().stack());
     history->setObjectName(QStringLiteral("historyView"));
     history->setEmptyLabel(tr("<unchanged>"));
     addDock(QStringLiteral("historyDock"), tr("History"), history, Qt::RightDockWidgetArea);
 }
 
-QDockWidget* HostMainWindow::addDock(const QString& name, const QString& title, QWidget* widget,
-                                     Qt::DockWidgetArea area)
+void HostMainWindow::addDock(const QString& name, const QString& title, QWidget* widget,
+                             Qt::DockWidgetArea area, HostLayout::NextToNodeDock nextToNodeDock)
 {
     auto* dock = new QDockWidget(title, this);
     dock->setObjectName(name);
     dock->setWidget(widget);
-    addDockWidget(area, dock);
-    return dock;
+    m_layout.addOwn(*dock, area, nextToNodeDock);
 }
 
 void HostMainWindow::buildMenus()
@@ -102,6 +94,7 @@ void HostMainWindow::buildMenus()
     menuBar()->addMenu(&m_fileMenu);
     buildEditMenu();
     menuBar()->addMenu(&m_viewMenu);
+    menuBar()->addMenu(&m_profilesMenu);
     menuBar()->addMenu(&m_helpMenu);
 }
 
@@ -154,6 +147,7 @@ void HostMainWindow::loadPlugins(const QStringList& files)
 
 void HostMainWindow::tellPluginErrors(const QStringList& errors)
 {
+    m_layout.hideEmptyDocks();
     if (errors.isEmpty())
         return;
     const QString text = tr("Not every plug-in could be loaded.");
@@ -169,22 +163,9 @@ void HostMainWindow::tellPluginErrors(const QStringList& errors)
 
 void HostMainWindow::restoreLayout()
 {
-    arrange();
-    m_layout.setInitial();
-    m_layout.restore();
-}
-
-void HostMainWindow::arrange()
-{
-    auto* scene = findChild<QDockWidget*>(QStringLiteral("sceneDock"));
-    auto* fields = findChild<QDockWidget*>(QStringLiteral("fieldsDock"));
-    auto* history = findChild<QDockWidget*>(QStringLiteral("historyDock"));
-    const bool isNodeDockThere = m_editorDocks.arrange(*history);
-    fields->setVisible(!isNodeDockThere); // or the same list would be there twice
-    const Percents& percents = isNodeDockThere ? WithNodeDock : WithoutNodeDock;
-    resizeDocks({scene, history}, {width() * percents.left / 100, width() * percents.right / 100},
-                Qt::Horizontal);
-    resizeDocks({scene, fields}, {3, 2}, Qt::Vertical);
+    m_layout.restoreGeometry();
+    m_layout.reset();
+    m_profileKeeper.restoreLayout();
 }
 
 void HostMainWindow::s_rootAboutToChange()
@@ -254,7 +235,8 @@ QMenu* HostMainWindow::createPopupMenu()
 void HostMainWindow::closeEvent(QCloseEvent* event)
 {
     if (m_fileMenu.mayDiscard()) {
-        m_layout.save();
+        m_layout.saveGeometry();
+        m_profileKeeper.save();
         event->accept();
     } else {
         event->ignore();

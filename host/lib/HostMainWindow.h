@@ -8,6 +8,8 @@
 #include "lib/HostLayout.h"
 #include "lib/HostPluginFolder.h"
 #include "lib/HostPluginsManager.h"
+#include "lib/HostProfileKeeper.h"
+#include "lib/HostProfilesMenu.h"
 #include "lib/HostScene.h"
 #include "lib/HostServices.h"
 #include "lib/HostShell.h"
@@ -35,6 +37,11 @@ public:
 
     /** The widget that shows the scene; the window owns it from now on. */
     void setView(QWidget* view);
+    /**
+     * Takes over the profiles of the last run, and stores them from now on; to be called before the
+     * plug-ins are loaded. Without it there is "Default", and nothing is stored.
+     */
+    void restoreProfiles() { m_profileKeeper.read(); }
     /** Loads the plug-ins of a folder and says, in a box, which of them cannot be used. */
     void loadPlugins(const QString& directory);
     /** The same for single libraries. */
@@ -54,6 +61,7 @@ public:
 
     HostScene& scene() { return m_scene; }
     HostServices& services() { return m_services; }
+    HostPluginsManager& pluginsManager() { return m_pluginsManager; }
     HostSceneModel& sceneModel() { return m_browser.sceneModel(); }
 
     QMenu* createPopupMenu() override;
@@ -87,9 +95,9 @@ private:
     void buildMenus();
     void buildEditMenu();
     void connectParts();
-    QDockWidget* addDock(const QString& name, const QString& title, QWidget* widget,
-                         Qt::DockWidgetArea area);
-    void arrange();
+    void addDock(const QString& name, const QString& title, QWidget* widget,
+                 Qt::DockWidgetArea area,
+                 HostLayout::NextToNodeDock nextToNodeDock = HostLayout::NextToNodeDock::Open);
     void tellPluginErrors(const QStringList& errors);
     static void fieldChanged(void* window, SoSensor*);
 
@@ -102,11 +110,13 @@ private:
     HostPluginFolder m_plugins;
     HostBrowser m_browser;
     HostFileMenu m_fileMenu;
-    HostLayout m_layout;
     HostEditorDocks m_editorDocks;
+    HostLayout m_layout;
+    HostProfileKeeper m_profileKeeper;
     HostUndoKeys m_undoKeys;
     SoFieldSensor m_fieldWatch; ///< for edits that push no command
     HostViewMenu m_viewMenu;
+    HostProfilesMenu m_profilesMenu;
     HostHelpMenu m_helpMenu;
     QString m_dropped;
 };

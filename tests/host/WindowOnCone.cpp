@@ -47,6 +47,9 @@ void WindowOnCone::restart()
 {
     m_window.reset();
     m_window = std::make_unique<HostMainWindow>();
+    m_window->restoreProfiles();
+    if (m_plugin)
+        m_window->pluginsManager().adopt(*m_plugin);
     m_window->setView(new QWidget);
     m_window->restoreLayout();
     m_window->show();

@@ -8,6 +8,7 @@
 #include <memory>
 
 class SoCone;
+class TvkPlugin;
 
 /** The host's window without a 3D view, on a scene with a cone in a group. */
 class WindowOnCone
@@ -21,6 +22,8 @@ public:
     /** A new window without a scene, with the settings that the last one left. */
     void restart();
     void finish() { m_window.reset(); }
+    /** A plug-in for every new window from now on; null for none. Not owned. */
+    void setPlugin(TvkPlugin* plugin) { m_plugin = plugin; }
 
     HostMainWindow* operator->() const { return m_window.get(); }
     HostMainWindow& operator*() const { return *m_window; }
@@ -51,5 +54,6 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    TvkPlugin* m_plugin = nullptr;
     std::unique_ptr<HostMainWindow> m_window;
 };

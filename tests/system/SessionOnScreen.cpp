@@ -91,6 +91,7 @@ void SessionOnScreen::restart()
 {
     m_window.reset();
     m_window = std::make_unique<AppWindow>();
+    m_window->restoreProfiles();
     m_window->loadPlugins(HostPluginLoader::pluginDirectory());
     m_window->restoreLayout();
     m_window->show();

@@ -3,6 +3,7 @@
 #include "app/AppPalette.h"
 
 #include "lib/HostMainWindow.h"
+#include "lib/HostProfileDialog.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -86,7 +87,20 @@ bool AppGallery::hang(const char* palette)
             return false;
         }
     }
-    return writeSheet(palette);
+    return writeSheet(palette) && takeProfileDialog(palette);
+}
+
+bool AppGallery::takeProfileDialog(const char* palette)
+{
+    const HostPluginsManager& manager = m_window.pluginsManager();
+    HostProfile sample(QStringLiteral("Materials"), HostProfile::Selected);
+    sample.contents = {{QStringLiteral("TvkDefaults/Field Editor")},
+                       {QStringLiteral("TvkDefaults/DvMFFloatWidget")}};
+    HostProfileDialog dialog(manager.profiles(), &sample, HostProfileDialog::NameAndContents);
+    dialog.setContents(manager.extensions(), sample);
+    dialog.show();
+    QCoreApplication::processEvents();
+    return write(grab(dialog), QStringLiteral("HostProfileDialog"), palette);
 }
 
 bool AppGallery::take(const AppExhibit& exhibit, const char* palette)

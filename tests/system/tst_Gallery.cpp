@@ -97,6 +97,7 @@ private slots:
         for (const char* palette : {"light", "dark"}) {
             const QString ending = QStringLiteral("-%1-%2x.png").arg(palette, factor);
             QVERIFY(folder.exists("sheet" + ending));
+            QVERIFY(colorsIn(QImage(folder.filePath("HostProfileDialog" + ending))) > 20);
             for (const QString& editor : m_editors) {
                 const QImage picture(folder.filePath(fileOf(editor, palette, scale)));
                 QVERIFY2(!picture.isNull(), qPrintable(editor));

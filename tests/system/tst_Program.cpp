@@ -120,8 +120,8 @@ void tst_Program::theTourWritesAPictureOfEachStep()
     const QString folder = m_folder.filePath("tour");
     const Result result = run({"--tour", folder, QStringLiteral(TAVRIK_EXAMPLE)});
     QVERIFY2(result.code == 0, qPrintable(result.errors));
-    // At its end, every editor in two palettes, and a sheet of each.
-    QCOMPARE(QDir(folder + "/editors").entryList({"*.png"}).size(), 2 * (41 + 1));
+    // At its end, in two palettes: every editor, a sheet of them, a dialog.
+    QCOMPARE(QDir(folder + "/editors").entryList({"*.png"}).size(), 2 * (41 + 2));
     const QStringList pictures = QDir(folder).entryList({"*.png"});
     QCOMPARE(pictures.size(), 10);
     QImage last;

@@ -53,8 +53,8 @@ private:
     struct Own
     {
         QPointer<QDockWidget> dock;
-        Qt::DockWidgetArea area;
-        NextToNodeDock nextToNodeDock;
+        Qt::DockWidgetArea area = Qt::NoDockWidgetArea;
+        NextToNodeDock nextToNodeDock = NextToNodeDock::Open;
     };
 
     void place(QDockWidget& dock, Qt::DockWidgetArea area);

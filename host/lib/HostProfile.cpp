@@ -2,8 +2,10 @@
 
 #include "lib/HostProfileName.h"
 
-HostProfile::HostProfile(const QString& name, Kind kind)
-    : TvkProfile(SbString()), m_kind(kind), m_fullName(name)
+#include <utility>
+
+HostProfile::HostProfile(QString name, Kind kind)
+    : TvkProfile(SbString()), m_kind(kind), m_fullName(std::move(name))
 {
     updateShortName(1);
 }

@@ -30,7 +30,7 @@ public:
     enum Kind { Everything, Selected };
 
     /** One of the first kind has everything that there is, whatever its contents say. */
-    HostProfile(const QString& name, Kind kind);
+    HostProfile(QString name, Kind kind);
     ~HostProfile() override;
 
     bool hasEverything() const { return m_kind == Everything; }

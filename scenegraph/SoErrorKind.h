@@ -3,6 +3,7 @@
 #include <Inventor/SbString.h>
 #include <Inventor/errors/SoError.h>
 
+#include <atomic>
 #include <cstdarg>
 
 /**
@@ -22,9 +23,10 @@ public:
 
     /** A null callback takes the class's own handler away again. */
     static void setHandlerCallback(SoErrorCB* callback, void* data);
-    /** The handler that a report reaches now: SoError's where the class has none of its own. */
-    static SoErrorCB* getHandlerCallback();
-    static void* getHandlerData();
+    /** The class's own handler, null while its reports go to SoError's: given to
+     *  setHandlerCallback() again, either leaves everything as it was. */
+    static SoErrorCB* getHandlerCallback() { return s_callback; }
+    static void* getHandlerData() { return s_data; }
 
     static void post(const char* format, ...);
 
@@ -36,34 +38,23 @@ protected:
 
 private:
     static SoType s_type;
-    static SoErrorCB* s_callback;
-    static void* s_data;
+    // Any thread may report while another one sets the handler.
+    static std::atomic<SoErrorCB*> s_callback;
+    static std::atomic<void*> s_data;
 };
 
 template <class Error>
 SoType SoErrorKind<Error>::s_type;
 template <class Error>
-SoErrorCB* SoErrorKind<Error>::s_callback = nullptr;
+std::atomic<SoErrorCB*> SoErrorKind<Error>::s_callback{nullptr};
 template <class Error>
-void* SoErrorKind<Error>::s_data = nullptr;
+std::atomic<void*> SoErrorKind<Error>::s_data{nullptr};
 
 template <class Error>
 void SoErrorKind<Error>::setHandlerCallback(SoErrorCB* callback, void* data)
 {
     s_callback = callback;
     s_data = data;
-}
-
-template <class Error>
-SoErrorCB* SoErrorKind<Error>::getHandlerCallback()
-{
-    return s_callback ? s_callback : SoError::getHandlerCallback();
-}
-
-template <class Error>
-void* SoErrorKind<Error>::getHandlerData()
-{
-    return s_callback ? s_data : SoError::getHandlerData();
 }
 
 template <class Error>
@@ -86,8 +77,12 @@ void SoErrorKind<Error>::post(const char* format, ...)
 template <class Error>
 SoErrorCBPtr SoErrorKind<Error>::getHandler(void*& data) const
 {
-    data = getHandlerData();
-    return getHandlerCallback();
+    if (SoErrorCB* const own = s_callback) {
+        data = s_data;
+        return own;
+    }
+    data = SoError::getHandlerData();
+    return SoError::getHandlerCallback();
 }
 
 template <class Error>

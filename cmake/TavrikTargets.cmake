@@ -15,6 +15,10 @@ if(TAVRIK_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(tavrik_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(TAVRIK_SANITIZE_THREADS)
+  target_compile_options(tavrik_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+  target_link_options(tavrik_options INTERFACE -fsanitize=thread)
+endif()
 if(TAVRIK_COVERAGE)
   target_compile_options(tavrik_options INTERFACE --coverage)
   target_link_options(tavrik_options INTERFACE --coverage)
@@ -76,6 +80,8 @@ function(tavrik_module name)
   _tavrik_common(${name})
   target_link_libraries(${name} PUBLIC ${A_LINK})
   set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+  # A class that derives from its form has the form's generated header in its own.
+  target_include_directories(${name} INTERFACE ${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/include)
   _tavrik_pch(${name} ${_tavrik_coin_pch} ${_tavrik_qt_pch})
 endfunction()
 
@@ -147,5 +153,6 @@ function(tavrik_test_environment name)
     ASAN_OPTIONS=detect_leaks=1:check_initialization_order=1
     UBSAN_OPTIONS=print_stacktrace=1)
   set_property(TEST ${name} PROPERTY
-    FAIL_REGULAR_EXPRESSION "QObject::connect;QObject::disconnect;runtime error:")
+    FAIL_REGULAR_EXPRESSION
+    "QObject::connect;QObject::disconnect;runtime error:;WARNING: ThreadSanitizer")
 endfunction()

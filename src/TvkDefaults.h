@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Console/TvkConsole.h"
 #include "FieldEditors/MFWidgets/DvMFColorWidget.h"
 #include "FieldEditors/MFWidgets/DvMFDefaultFieldWidget.h"
 #include "FieldEditors/MFWidgets/DvMFDoubleWidget.h"
@@ -59,6 +60,7 @@ public:
 private:
     // In order of construction. The docks choose among the editors in this order.
     TvkProfileSelectorExtension m_profileSelector;
+    TvkConsole m_console;
     DvMFColorWidget m_mfColorWidget;
     DvMFDefaultFieldWidget m_mfDefaultFieldWidget;
     DvMFDoubleWidget m_mfDoubleWidget;

@@ -52,6 +52,8 @@ void TvkProfileSelectorExtension::activate()
     follow(false); // or the filling would count as a choice, when it comes twice
     fill();
     follow(true);
+    if (isActive())
+        return;
     TvkShell::getInstance()->addToolBar(toolBar, Qt::TopToolBarArea);
     TvkShell::getInstance()->registerExtension(this, true);
     TvkExtension::activate();

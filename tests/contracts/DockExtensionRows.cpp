@@ -1,7 +1,9 @@
 #include "tests/contracts/DockExtensionRows.h"
 
+#include "Console/TvkConsole.h"
 #include "FieldEditors/TvkFieldEditorDockWin.h"
 #include "FieldEditors/TvkNodeEditor.h"
+#include "ProfileSelector/TvkProfileSelectorExtension.h"
 
 namespace {
 
@@ -20,6 +22,9 @@ const QVector<DockExtensionRow>& dockExtensions()
          Qt::RightDockWidgetArea},
         {"TvkNodeEditor", made<TvkNodeEditor>, "Node Editor", "DockWidget",
          Qt::RightDockWidgetArea},
+        {"TvkConsole", made<TvkConsole>, "Console", "DockWidget", Qt::BottomDockWidgetArea, true},
+        {"TvkProfileSelectorExtension", made<TvkProfileSelectorExtension>, "Profile Selector",
+         "ToolBar", Qt::TopToolBarArea},
     };
     return s_rows;
 }

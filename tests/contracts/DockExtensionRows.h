@@ -12,9 +12,10 @@ struct DockExtensionRow
 {
     const char* className;
     std::function<std::unique_ptr<TvkExtension>()> make;
-    const char* title; ///< of its dock or tool bar
-    const char* kind;  ///< "DockWidget" or "ToolBar", as in the shell's operations
-    int area;          ///< where it asks to be put
+    const char* title;           ///< of its dock or tool bar
+    const char* kind;            ///< "DockWidget" or "ToolBar", as in the shell's operations
+    int area;                    ///< where it asks to be put
+    bool registersFirst = false; ///< before it is put into the window
 };
 
 /** All of them, a row each. */

@@ -1,7 +1,9 @@
 #include "tests/contracts/DockExtensionRows.h"
 #include "tests/support/RecordingHost.h"
+#include "tests/support/RecordingPluginsManager.h"
 #include "tests/support/TestMain.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -49,10 +51,13 @@ public:
 
     QStringList activation() const
     {
-        return {QStringLiteral("add%1 \"%2\" %3")
-                    .arg(QLatin1String(m_member.kind), QLatin1String(m_member.title))
-                    .arg(m_member.area),
-                QStringLiteral("registerExtension \"%1\" true").arg(name())};
+        QStringList calls = {QStringLiteral("add%1 \"%2\" %3")
+                                 .arg(QLatin1String(m_member.kind), QLatin1String(m_member.title))
+                                 .arg(m_member.area),
+                             QStringLiteral("registerExtension \"%1\" true").arg(name())};
+        if (m_member.registersFirst)
+            std::reverse(calls.begin(), calls.end());
+        return calls;
     }
     QStringList deactivation() const
     {
@@ -63,6 +68,7 @@ public:
     QStringList takeCalls() { return std::exchange(host.shell.calls, {}); }
 
     RecordingHost host;
+    RecordingPluginsManager profiles{"Default"};
     QPointer<QWidget> widget; ///< its dock or tool bar
 
 private:
@@ -87,8 +93,8 @@ private slots:
     void tellsWhoItIs();
     void makingItBuildsNoWidgets_data() { addRows(); }
     void makingItBuildsNoWidgets();
-    void createWidgetsBuildsOneHiddenTitledWindow_data() { addRows(); }
-    void createWidgetsBuildsOneHiddenTitledWindow();
+    void createWidgetsBuildsOneHiddenWindow_data() { addRows(); }
+    void createWidgetsBuildsOneHiddenWindow();
     void activatingPutsItIntoTheWindowAndRegisters_data() { addRows(); }
     void activatingPutsItIntoTheWindowAndRegisters();
     void deactivatingTakesItOutAndUnregisters_data() { addRows(); }
@@ -147,14 +153,13 @@ void tst_DockExtensionContract::makingItBuildsNoWidgets()
     QCOMPARE(withoutParent(), before);
 }
 
-void tst_DockExtensionContract::createWidgetsBuildsOneHiddenTitledWindow()
+void tst_DockExtensionContract::createWidgetsBuildsOneHiddenWindow()
 {
     Rig rig(row());
     rig.createWidgets();
     QVERIFY(rig.widget);
     QVERIFY(rig.widget->isHidden());
     QVERIFY(!rig.widget->acceptDrops());
-    QCOMPARE(rig.widget->windowTitle(), QString(row().title));
     QVERIFY(rig.takeCalls().isEmpty());
     rig->releaseWidgets();
 }
@@ -165,6 +170,7 @@ void tst_DockExtensionContract::activatingPutsItIntoTheWindowAndRegisters()
     rig.createWidgets();
     rig->activate();
     QCOMPARE(rig.takeCalls(), rig.activation());
+    QCOMPARE(rig.widget->windowTitle(), QString(row().title));
     QVERIFY(rig->isActive());
     rig->deactivate();
     rig->releaseWidgets();

@@ -34,11 +34,9 @@ void PluginSession::selectField(SoField* field)
 
 QWidget* PluginSession::editor() const
 {
-    for (const QDockWidget* dock : m_shell.docks()) {
-        if (dock->widget() && dock->widget()->isVisible())
-            return dock->widget();
-    }
-    return nullptr;
+    const QDockWidget* const dock = m_shell.dockWithSlot("s_selectedFieldChanged(SoField*)");
+    QWidget* const widget = dock ? dock->widget() : nullptr;
+    return widget && widget->isVisible() ? widget : nullptr;
 }
 
 void PluginSession::undoAll()

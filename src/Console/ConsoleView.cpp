@@ -1,0 +1,193 @@
+#include "Console/ConsoleView.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QLocale>
+#include <QMenu>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTimerEvent>
+
+#include <memory>
+
+namespace {
+
+// The messages' dark colours need a light ground, also where the rest of the window is dark.
+const QColor PaperInDarkThemes(0xF4, 0xF4, 0xEF);
+constexpr int MiddleLightness = 128;
+
+constexpr int LinesDroppedAtOnce = 100; // of as many as are kept, one in so many
+
+QTextCharFormat inColor(const QColor& color)
+{
+    QTextCharFormat format;
+    format.setForeground(color);
+    return format;
+}
+
+} // namespace
+
+ConsoleView::ConsoleView(QWidget* parent) : QPlainTextEdit(parent)
+{
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    document()->setUndoRedoEnabled(false);
+    setLineWrapMode(NoWrap);
+    m_end = QTextCursor(document());
+    // Or a selection that reaches the end would grow with every message.
+    QTextCursor user = textCursor();
+    user.setKeepPositionOnInsert(true);
+    setTextCursor(user);
+    chooseBase();
+    addActions();
+}
+
+ConsoleView::~ConsoleView()
+{
+    closeBlock();
+}
+
+void ConsoleView::addActions()
+{
+    m_findAction = new QAction(tr("&Find..."), this);
+    m_findAction->setObjectName(QStringLiteral("findAction"));
+    m_findAction->setShortcut(QKeySequence::Find);
+    m_findAction->setShortcutContext(Qt::WidgetShortcut);
+    connect(m_findAction, SIGNAL(triggered()), SIGNAL(findRequested()));
+    addAction(m_findAction);
+    m_wrapAction = new QAction(tr("&Word Wrap"), this);
+    m_wrapAction->setObjectName(QStringLiteral("wordWrapAction"));
+    m_wrapAction->setCheckable(true);
+    connect(m_wrapAction, SIGNAL(toggled(bool)), SLOT(wrapLines(bool)));
+    addAction(m_wrapAction);
+}
+
+void ConsoleView::addParagraph(const QString& text, const QColor& color)
+{
+    openBlock();
+    const bool isFirst = document()->isEmpty();
+    m_end.insertText(isFirst ? text : QLatin1Char('\n') + text, inColor(color));
+}
+
+void ConsoleView::clearText()
+{
+    closeBlock();
+    clear();
+    m_droppedLines = 0;
+}
+
+void ConsoleView::openBlock()
+{
+    if (m_isBlockOpen)
+        return;
+    m_followsEnd = isAtEnd();
+    m_end.movePosition(QTextCursor::End);
+    m_end.beginEditBlock();
+    m_isBlockOpen = true;
+    m_turnEnd.start(0, this);
+}
+
+void ConsoleView::closeBlock()
+{
+    if (!m_isBlockOpen)
+        return;
+    m_isBlockOpen = false;
+    m_turnEnd.stop();
+    m_end.endEditBlock();
+    dropOldLines();
+    if (m_followsEnd)
+        goToEnd();
+}
+
+void ConsoleView::dropOldLines()
+{
+    const int surplus = blockCount() - m_keptLines;
+    if (surplus <= m_keptLines / LinesDroppedAtOnce)
+        return;
+    // What the user looks at stays where it is as long as it is there at all.
+    const QTextBlock top = firstVisibleBlock();
+    const bool staysAtTop = top.blockNumber() >= surplus;
+    const bool hasNotice = m_droppedLines > 0;
+    m_droppedLines += hasNotice ? surplus - 1 : surplus;
+    QTextCursor oldest(document());
+    oldest.beginEditBlock();
+    oldest.setPosition(document()->findBlockByNumber(surplus).position(), QTextCursor::KeepAnchor);
+    oldest.removeSelectedText();
+    const QString notice =
+        tr("%1 older lines are no longer kept.").arg(QLocale().toString(m_droppedLines));
+    oldest.insertText(notice + QLatin1Char('\n'), inColor(Qt::darkGray));
+    oldest.endEditBlock();
+    if (!m_followsEnd)
+        verticalScrollBar()->setValue(staysAtTop ? top.firstLineNumber() : 0);
+}
+
+bool ConsoleView::isAtEnd() const
+{
+    return verticalScrollBar()->value() >= verticalScrollBar()->maximum();
+}
+
+void ConsoleView::goToEnd()
+{
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+/** Whatever happens to the view finds it laid out. */
+bool ConsoleView::event(QEvent* event)
+{
+    if (event->type() != QEvent::Timer)
+        closeBlock();
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        chooseBase();
+    return QPlainTextEdit::event(event);
+}
+
+bool ConsoleView::viewportEvent(QEvent* event)
+{
+    closeBlock();
+    return QPlainTextEdit::viewportEvent(event);
+}
+
+void ConsoleView::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == m_turnEnd.timerId())
+        closeBlock();
+    else
+        QPlainTextEdit::timerEvent(event);
+}
+
+void ConsoleView::resizeEvent(QResizeEvent* event)
+{
+    const bool wasAtEnd = isAtEnd();
+    QPlainTextEdit::resizeEvent(event);
+    if (wasAtEnd)
+        goToEnd();
+}
+
+void ConsoleView::contextMenuEvent(QContextMenuEvent* event)
+{
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
+    menu->setObjectName(QStringLiteral("consoleMenu"));
+    menu->addSeparator();
+    menu->addAction(m_findAction);
+    menu->addAction(m_wrapAction);
+    menu->exec(event->globalPos());
+}
+
+void ConsoleView::wrapLines(bool wrap)
+{
+    const bool wasAtEnd = isAtEnd();
+    setLineWrapMode(wrap ? WidgetWidth : NoWrap);
+    if (wasAtEnd)
+        goToEnd();
+}
+
+void ConsoleView::chooseBase()
+{
+    QPalette palette = QApplication::palette(this);
+    if (palette.color(QPalette::Base).lightness() < MiddleLightness) {
+        palette.setColor(QPalette::Base, PaperInDarkThemes);
+        palette.setColor(QPalette::Text, Qt::black);
+    }
+    setPalette(palette);
+}

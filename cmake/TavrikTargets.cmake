@@ -151,7 +151,8 @@ function(tavrik_test_environment name)
     COIN_ENVIRONMENT_CHECK=0
     LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0
     ASAN_OPTIONS=detect_leaks=1:check_initialization_order=1
-    UBSAN_OPTIONS=print_stacktrace=1)
+    UBSAN_OPTIONS=print_stacktrace=1
+    TSAN_OPTIONS=ignore_noninstrumented_modules=1)
   set_property(TEST ${name} PROPERTY
     FAIL_REGULAR_EXPRESSION
     "QObject::connect;QObject::disconnect;runtime error:;WARNING: ThreadSanitizer")

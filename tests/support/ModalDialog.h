@@ -38,14 +38,15 @@ public:
 private:
     void look()
     {
-        const QPointer<QDialog> dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!dialog || !dialog->isVisible())
+        auto* const up = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!up || !up->isVisible())
             return;
+        const QPointer<QDialog> watched(up);
         m_timer.stop();
         m_wasUp = true;
-        m_action(*dialog);
-        if (dialog && dialog->isVisible())
-            dialog->reject();
+        m_action(*up);
+        if (QDialog* const left = watched.data(); left && left->isVisible())
+            left->reject();
     }
 
     Action m_action;

@@ -60,9 +60,11 @@ bool HostLayout::arrangeEditors()
     for (const Own& own : m_own)
         if (own.dock && own.area == Qt::RightDockWidgetArea)
             isNodeDockThere = m_editorDocks.arrange(*own.dock);
-    for (const Own& own : m_own)
-        if (own.dock && own.nextToNodeDock == NextToNodeDock::Closed)
-            own.dock->setVisible(!isNodeDockThere);
+    for (const Own& own : m_own) {
+        QDockWidget* const dock = own.dock;
+        if (dock && own.nextToNodeDock == NextToNodeDock::Closed)
+            dock->setVisible(!isNodeDockThere);
+    }
     return isNodeDockThere;
 }
 

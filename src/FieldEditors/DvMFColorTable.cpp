@@ -56,8 +56,8 @@ void DvMFColorTable::s_colorSelected(const QColor& color)
 
 void DvMFColorTable::closeDialog()
 {
-    if (m_dialog)
-        m_dialog->reject();
+    if (QColorDialog* const dialog = m_dialog)
+        dialog->reject();
 }
 
 void DvMFColorTableItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

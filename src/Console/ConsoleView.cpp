@@ -9,6 +9,7 @@
 #include <QTextBlock>
 #include <QTimerEvent>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -35,10 +36,6 @@ ConsoleView::ConsoleView(QWidget* parent) : QPlainTextEdit(parent)
     document()->setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);
     m_end = QTextCursor(document());
-    // Or a selection that reaches the end would grow with every message.
-    QTextCursor user = textCursor();
-    user.setKeepPositionOnInsert(true);
-    setTextCursor(user);
     chooseBase();
     addActions();
 }
@@ -65,6 +62,8 @@ void ConsoleView::addActions()
 
 void ConsoleView::addParagraph(const QString& text, const QColor& color)
 {
+    if (wouldSelectMore())
+        holdSelection();
     openBlock();
     const bool isFirst = document()->isEmpty();
     m_end.insertText(isFirst ? text : QLatin1Char('\n') + text, inColor(color));
@@ -75,6 +74,33 @@ void ConsoleView::clearText()
     closeBlock();
     clear();
     m_droppedLines = 0;
+}
+
+/** Whether the user's selection reaches the end and would grow with what is inserted there. */
+bool ConsoleView::wouldSelectMore() const
+{
+    const QTextCursor user = textCursor();
+    const bool isHeld =
+        user.position() >= user.anchor() && user.keepPositionOnInsert() == user.hasSelection();
+    return !isHeld && std::max(user.position(), user.anchor()) == m_end.position();
+}
+
+/**
+ * A cursor's anchor moves along with what is inserted before it, whatever the cursor is told: it
+ * must not be at the end, unless nothing is selected and both move.
+ */
+void ConsoleView::holdSelection()
+{
+    closeBlock();
+    const QTextCursor user = textCursor();
+    QTextCursor held(document());
+    held.setPosition(user.selectionStart());
+    held.setPosition(user.selectionEnd(), QTextCursor::KeepAnchor);
+    held.setKeepPositionOnInsert(held.hasSelection());
+    const QPoint place(horizontalScrollBar()->value(), verticalScrollBar()->value());
+    setTextCursor(held); // goes to where the cursor is
+    horizontalScrollBar()->setValue(place.x());
+    verticalScrollBar()->setValue(place.y());
 }
 
 void ConsoleView::openBlock()

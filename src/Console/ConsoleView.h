@@ -47,6 +47,8 @@ private slots:
 
 private:
     void addActions();
+    bool wouldSelectMore() const;
+    void holdSelection();
     void openBlock();
     void closeBlock();
     void dropOldLines();

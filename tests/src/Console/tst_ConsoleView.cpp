@@ -117,6 +117,60 @@ private slots:
         QCOMPARE(colorAt(view, 0), QColor(Qt::darkRed));
     }
 
+    void messagesSelectNothing()
+    {
+        Shown view;
+        view.add(2);
+        QVERIFY(!view.textCursor().hasSelection());
+        view.turn();
+        QTest::keyClick(&view, Qt::Key_End, Qt::ControlModifier);
+        view.add(2);
+        view.turn();
+        QVERIFY(!view.textCursor().hasSelection());
+    }
+
+    void aSelectionThatReachesTheEndDoesNotGrow_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::newRow("forwards") << 5 << 11;
+        QTest::newRow("backwards") << 11 << 5;
+    }
+    void aSelectionThatReachesTheEndDoesNotGrow()
+    {
+        QFETCH(int, from);
+        QFETCH(int, to);
+        Shown view;
+        view.addParagraph(QStringLiteral("some birds"), s_color);
+        view.addParagraph({}, s_color); // and while nothing is laid out yet
+        QTextCursor cursor(view.document());
+        cursor.setPosition(from);
+        cursor.setPosition(to, QTextCursor::KeepAnchor);
+        view.setTextCursor(cursor);
+        const QString selected = view.textCursor().selectedText();
+        for (int i = 0; i < 2; ++i) {
+            view.add(2);
+            QCOMPARE(view.textCursor().selectedText(), selected);
+            view.turn();
+            QCOMPARE(view.textCursor().selectedText(), selected);
+        }
+    }
+
+    void theViewStaysWhereItIsWhenASelectionIsHeld()
+    {
+        Shown view;
+        view.add(100);
+        view.turn();
+        QTest::keyClick(&view, Qt::Key_End, Qt::ControlModifier);
+        QTest::keyClick(&view, Qt::Key_Home, Qt::ControlModifier | Qt::ShiftModifier);
+        const QString selected = view.textCursor().selectedText();
+        QCOMPARE(view.firstLineSeen(), QStringLiteral("line 0"));
+        view.add(10);
+        view.turn();
+        QCOMPARE(view.firstLineSeen(), QStringLiteral("line 0"));
+        QCOMPARE(view.textCursor().selectedText(), selected);
+    }
+
     void theViewFollowsItsEnd()
     {
         Shown view;

@@ -1,6 +1,7 @@
 #include "app/AppSceneView.h"
 
-#include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
+#include "app/AppExaminerViewer.h"
+
 #include <Inventor/SbViewportRegion.h>
 #include <Inventor/SoPath.h>
 #include <Inventor/SoPickedPoint.h>
@@ -48,7 +49,7 @@ AppSceneView::AppSceneView(QWidget* parent) : QWidget(parent), m_top(new SoSepar
     setObjectName(QStringLiteral("sceneCanvas"));
     m_top->ref();
     m_viewer =
-        std::make_unique<SoQtExaminerViewer>(this, "viewer", TRUE, SoQtFullViewer::BUILD_POPUP);
+        std::make_unique<AppExaminerViewer>(this, "viewer", TRUE, SoQtFullViewer::BUILD_POPUP);
     m_viewer->setDecoration(FALSE);
     m_viewer->setFeedbackVisibility(FALSE);
     // A scene that goes on turning by itself cannot be edited at leisure.

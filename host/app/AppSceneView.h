@@ -11,11 +11,11 @@
 
 #include <memory>
 
+class AppExaminerViewer;
 class SbVec2s;
 class SoNode;
 class SoPath;
 class SoSeparator;
-class SoQtExaminerViewer;
 
 /**
  * The picture of the scene, to be looked at from all sides with the mouse. A click picks what is
@@ -57,7 +57,7 @@ private:
 
     SoSeparator* const m_top; ///< referenced: the scene, its camera once more, the marker
     HostMarker m_marker;
-    std::unique_ptr<SoQtExaminerViewer> m_viewer;
+    std::unique_ptr<AppExaminerViewer> m_viewer;
     SoNode* m_root = nullptr; ///< not owned; below m_top
     AppClick m_click;
     QTimer m_redrawTimer;

@@ -24,6 +24,8 @@ constexpr Percents WithNodeDock = {25, 30};
 constexpr Percents WithoutNodeDock = {30, 20};
 /** How the docks on the left share its height, from the top. */
 const QList<int> LeftShares = {3, 2};
+/** What a dock below the view takes of the height, so that most of it is the view's. */
+constexpr int BottomPercent = 20;
 
 } // namespace
 
@@ -50,6 +52,8 @@ void HostLayout::reset()
         place(*dock, m_shell.area(*dock));
     placeOwn(Qt::RightDockWidgetArea); // below what the plug-ins have put there
     resizeOwn(arrangeEditors());
+    for (QDockWidget* dock : m_shell.docks())
+        limitHeight(*dock);
     hideEmptyDocks();
 }
 
@@ -98,6 +102,12 @@ void HostLayout::resizeOwn(bool isNodeDockThere)
     m_window.resizeDocks(left, LeftShares.mid(0, left.size()), Qt::Vertical);
 }
 
+void HostLayout::limitHeight(QDockWidget& dock)
+{
+    if (m_window.dockWidgetArea(&dock) == Qt::BottomDockWidgetArea)
+        m_window.resizeDocks({&dock}, {m_window.height() * BottomPercent / 100}, Qt::Vertical);
+}
+
 QByteArray HostLayout::state() const
 {
     return m_window.saveState(StateVersion);
@@ -113,9 +123,12 @@ void HostLayout::setState(const QByteArray& state)
 /** The window loses the place of a dock that an arrangement does not know. */
 void HostLayout::placeUnplaced()
 {
-    for (QDockWidget* dock : m_shell.docks())
-        if (m_window.dockWidgetArea(dock) == Qt::NoDockWidgetArea)
-            place(*dock, m_shell.area(*dock));
+    for (QDockWidget* dock : m_shell.docks()) {
+        if (m_window.dockWidgetArea(dock) != Qt::NoDockWidgetArea)
+            continue;
+        place(*dock, m_shell.area(*dock));
+        limitHeight(*dock);
+    }
 }
 
 void HostLayout::hideEmptyDocks() const

@@ -61,6 +61,7 @@ private:
     void placeOwn(Qt::DockWidgetArea area);
     bool arrangeEditors();
     void resizeOwn(bool isNodeDockThere);
+    void limitHeight(QDockWidget& dock);
     void placeUnplaced();
 
     QMainWindow& m_window;

@@ -163,7 +163,8 @@ bool ConsoleView::event(QEvent* event)
 {
     if (event->type() != QEvent::Timer)
         closeBlock();
-    if (event->type() == QEvent::ApplicationPaletteChange)
+    // Only windows are told of the application's palette, what is in them of the change.
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::PaletteChange)
         chooseBase();
     return QPlainTextEdit::event(event);
 }
@@ -210,10 +211,12 @@ void ConsoleView::wrapLines(bool wrap)
 
 void ConsoleView::chooseBase()
 {
-    QPalette palette = QApplication::palette(this);
-    if (palette.color(QPalette::Base).lightness() < MiddleLightness) {
-        palette.setColor(QPalette::Base, PaperInDarkThemes);
-        palette.setColor(QPalette::Text, Qt::black);
+    const QWidget* const around = parentWidget();
+    const QPalette theme = around ? around->palette() : QApplication::palette(this);
+    QPalette own; // what is not set in it stays the theme's
+    if (theme.color(QPalette::Base).lightness() < MiddleLightness) {
+        own.setColor(QPalette::Base, PaperInDarkThemes);
+        own.setColor(QPalette::Text, Qt::black);
     }
-    setPalette(palette);
+    setPalette(own);
 }

@@ -5,8 +5,11 @@
 #include <QAction>
 #include <QMenu>
 #include <QScrollBar>
+#include <QSet>
 #include <QTextBlock>
 #include <QTimer>
+
+#include <memory>
 
 namespace {
 
@@ -329,19 +332,36 @@ private slots:
         QCOMPARE(view.toPlainText(), QStringLiteral("line 0"));
     }
 
+    void theColoursReadWellOnItsBaseInALightAndInADarkTheme_data()
+    {
+        QTest::addColumn<bool>("isInside");
+        QTest::addColumn<bool>("isOfWindow");
+        QTest::newRow("a window of its own") << false << false;
+        QTest::newRow("inside a window") << true << false;
+        QTest::newRow("inside a window with a palette of its own") << true << true;
+    }
     void theColoursReadWellOnItsBaseInALightAndInADarkTheme()
     {
+        QFETCH(bool, isInside);
+        QFETCH(bool, isOfWindow);
         const QPalette former = QApplication::palette();
         QPalette dark(QColor(50, 50, 55));
         dark.setColor(QPalette::Base, QColor(30, 30, 32));
-        ConsoleView view;
+        QWidget window;
+        auto* const view = new ConsoleView(&window);
+        const std::unique_ptr<ConsoleView> owner(isInside ? nullptr : view);
+        if (!isInside)
+            view->setParent(nullptr);
+        QSet<QRgb> bases;
         for (const QPalette& theme : {QPalette(Qt::lightGray), dark, former}) {
-            QApplication::setPalette(theme);
+            isOfWindow ? window.setPalette(theme) : QApplication::setPalette(theme);
             QCoreApplication::processEvents();
-            const QColor base = view.palette().color(QPalette::Base);
+            const QColor base = view->palette().color(QPalette::Base);
+            bases << base.rgb();
             for (const Qt::GlobalColor color : {Qt::darkRed, Qt::darkGreen, Qt::darkYellow})
                 QVERIFY2(contrast(color, base) > 3.7, qPrintable(base.name()));
         }
+        QCOMPARE(bases.size(), 2); // white again where it is light again
     }
 };
 

@@ -1,6 +1,7 @@
 #include "app/AppGallery.h"
 
 #include "app/AppPalette.h"
+#include "app/AppSampleMessages.h"
 
 #include "lib/HostMainWindow.h"
 #include "lib/HostProfileDialog.h"
@@ -17,6 +18,7 @@
 namespace {
 
 constexpr int s_width = 320; ///< of a narrow dock
+constexpr QSize s_consoleSize(600, 150);
 constexpr int s_gap = 12;
 constexpr int s_sheetColumns = 3;
 
@@ -87,7 +89,7 @@ bool AppGallery::hang(const char* palette)
             return false;
         }
     }
-    return writeSheet(palette) && takeProfileDialog(palette);
+    return writeSheet(palette) && takeProfileDialog(palette) && takeConsole(palette);
 }
 
 bool AppGallery::takeProfileDialog(const char* palette)
@@ -101,6 +103,21 @@ bool AppGallery::takeProfileDialog(const char* palette)
     dialog.show();
     QCoreApplication::processEvents();
     return write(grab(dialog), QStringLiteral("HostProfileDialog"), palette);
+}
+
+bool AppGallery::takeConsole(const char* palette)
+{
+    auto* const console = m_window.findChild<QWidget*>(QStringLiteral("m_consoleFrame"));
+    if (!console)
+        return true; // none of the plug-ins has one
+    auto* const clearButton = console->findChild<QPushButton*>(QStringLiteral("m_clearButton"));
+    if (clearButton)
+        clearButton->click();
+    AppSampleMessages::say();
+    QCoreApplication::processEvents();
+    console->resize(s_consoleSize);
+    QCoreApplication::processEvents();
+    return write(grab(*console), QStringLiteral("TvkConsole"), palette);
 }
 
 bool AppGallery::take(const AppExhibit& exhibit, const char* palette)

@@ -38,6 +38,7 @@ private:
 
     bool hang(const char* palette);
     bool takeProfileDialog(const char* palette);
+    bool takeConsole(const char* palette);
     bool take(const AppExhibit& exhibit, const char* palette);
     void lay(QWidget& editor, int openRow) const;
     QImage pictureOf(QWidget& editor) const;

@@ -1,6 +1,7 @@
 #include "app/AppTour.h"
 
 #include "app/AppRobot.h"
+#include "app/AppSampleMessages.h"
 #include "app/AppSceneView.h"
 #include "app/AppWindow.h"
 
@@ -15,6 +16,7 @@
 
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <QTreeView>
@@ -63,7 +65,7 @@ bool AppTour::run()
     if (!m_folder.mkpath(QStringLiteral(".")))
         return fail(QStringLiteral("the folder %1 cannot be made").arg(m_folder.path()));
     const bool passed = waitForScene() && filterFields() && editVector() && undoEdit() &&
-                        ignoreField() && undoIgnore();
+                        ignoreField() && undoIgnore() && showConsole();
     if (passed)
         m_message = QStringLiteral("the tour wrote %1 pictures into %2")
                         .arg(QString::number(m_pictures), m_folder.absolutePath());
@@ -139,6 +141,18 @@ bool AppTour::undoIgnore()
 {
     return chooseFromEditMenu("actionUndo") && expectChange("undoing the ignoring") &&
            take("ignore-undone");
+}
+
+bool AppTour::showConsole()
+{
+    const auto* console = visibleChild<QPlainTextEdit>(m_window, "m_consoleOutput");
+    if (!console)
+        return true; // none of the plug-ins has one
+    AppSampleMessages::say();
+    const bool areSaid =
+        AppRobot::waitUntil([console] { return AppSampleMessages::areIn(console->toPlainText()); });
+    AppRobot::wait(300);
+    return (areSaid || fail(QStringLiteral("the console shows no messages"))) && take("console");
 }
 
 /** The first of these fields whose node is in the scene. */

@@ -36,6 +36,7 @@ private:
     bool undoEdit();
     bool ignoreField();
     bool undoIgnore();
+    bool showConsole();
 
     bool select(const QVector<Target>& targets);
     bool selectNode(const char* type);

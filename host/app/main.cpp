@@ -128,6 +128,8 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (lacksDisplay(argc, argv))
         return refuse("There is no display to open a window on.");
+    // Or an icon is drawn from its coarsest picture on a fine display.
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     Arguments given(argc, argv);
     const QApplication application(given.count(), given.values());
     QApplication::setApplicationName(QStringLiteral("tavrik"));

@@ -24,6 +24,24 @@ int colorsIn(const QImage& picture)
     return colors.size();
 }
 
+/** Whether an icon is drawn, pixel by pixel, somewhere in a picture. */
+bool shows(const QImage& picture, const QImage& icon)
+{
+    const auto isAt = [&](const QPoint& corner) {
+        for (int y = 0; y < icon.height(); ++y)
+            for (int x = 0; x < icon.width(); ++x)
+                if (qAlpha(icon.pixel(x, y)) == 255 &&
+                    picture.pixel(corner + QPoint(x, y)) != icon.pixel(x, y))
+                    return false;
+        return true;
+    };
+    for (int y = 0; y + icon.height() <= picture.height(); ++y)
+        for (int x = 0; x + icon.width() <= picture.width(); ++x)
+            if (isAt({x, y}))
+                return true;
+    return false;
+}
+
 /** The names of the field editors that the plug-in registers. */
 QStringList fieldEditors()
 {
@@ -97,7 +115,8 @@ private slots:
         for (const char* palette : {"light", "dark"}) {
             const QString ending = QStringLiteral("-%1-%2x.png").arg(palette, factor);
             QVERIFY(folder.exists("sheet" + ending));
-            QVERIFY(colorsIn(QImage(folder.filePath("HostProfileDialog" + ending))) > 20);
+            for (const char* other : {"HostProfileDialog", "TvkConsole"})
+                QVERIFY2(colorsIn(QImage(folder.filePath(other + ending))) > 20, other);
             for (const QString& editor : m_editors) {
                 const QImage picture(folder.filePath(fileOf(editor, palette, scale)));
                 QVERIFY2(!picture.isNull(), qPrintable(editor));
@@ -105,6 +124,16 @@ private slots:
                 QVERIFY2(colorsIn(picture) > 20, qPrintable(editor));
             }
         }
+    }
+
+    void iconsAreDrawnFromTheirFinestPicture()
+    {
+        const QDir folder(m_folder.filePath("icons"));
+        QCOMPARE(run({"--gallery", folder.path()}, "2"), 0);
+        const QImage console(folder.filePath("TvkConsole-light-2x.png"));
+        const QImage fine(QStringLiteral(TAVRIK_ICONS "/save@2x.png"));
+        QCOMPARE(fine.width(), 32);
+        QVERIFY(shows(console, fine));
     }
 
     void theManualShowsEveryEditor()

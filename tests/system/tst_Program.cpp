@@ -120,10 +120,10 @@ void tst_Program::theTourWritesAPictureOfEachStep()
     const QString folder = m_folder.filePath("tour");
     const Result result = run({"--tour", folder, QStringLiteral(TAVRIK_EXAMPLE)});
     QVERIFY2(result.code == 0, qPrintable(result.errors));
-    // At its end, in two palettes: every editor, a sheet of them, a dialog.
-    QCOMPARE(QDir(folder + "/editors").entryList({"*.png"}).size(), 2 * (41 + 2));
+    // At its end, in two palettes: every editor, a sheet of them, a dialog, the console.
+    QCOMPARE(QDir(folder + "/editors").entryList({"*.png"}).size(), 2 * (41 + 3));
     const QStringList pictures = QDir(folder).entryList({"*.png"});
-    QCOMPARE(pictures.size(), 10);
+    QCOMPARE(pictures.size(), 11);
     QImage last;
     for (const QString& name : pictures) {
         const QImage picture(QDir(folder).filePath(name));

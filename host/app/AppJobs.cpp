@@ -1,5 +1,6 @@
 #include "app/AppJobs.h"
 
+#include "app/AppErrorEcho.h"
 #include "app/AppGallery.h"
 #include "app/AppScreenshot.h"
 #include "app/AppTour.h"
@@ -114,8 +115,10 @@ int takeScreenshot(AppWindow& window, const QString& file)
 int runInWindow(const AppArguments& arguments)
 {
     AppWindow window;
+    AppErrorEcho echo;
     if (!loadPlugins(window, arguments))
         return AppJobs::Failed;
+    echo.start();
     window.restoreLayout();
     window.show();
     if (!openScene(window, arguments))

@@ -30,6 +30,8 @@ private slots:
     void aScreenshotNeedsNoScene();
     void whatCannotBeDoneIsTold_data();
     void whatCannotBeDoneIsTold();
+    void whatIsReportedReachesTheTerminalOnce_data();
+    void whatIsReportedReachesTheTerminalOnce();
     void aFailedScreenshotLeavesTheOldPicture();
     void argumentsThatMakeNoSenseAreRefused_data();
     void argumentsThatMakeNoSenseAreRefused();
@@ -267,6 +269,34 @@ void tst_Program::whatCannotBeDoneIsTold()
     QVERIFY2(result.errors.contains("tavrik: ") && result.errors.contains(says),
              qPrintable(result.errors));
     QVERIFY(!QFile::exists(m_folder.filePath("unwanted.png")));
+}
+
+void tst_Program::whatIsReportedReachesTheTerminalOnce_data()
+{
+    QTest::addColumn<QStringList>("plugins");
+    QTest::addColumn<QByteArray>("node");
+    QTest::addColumn<QString>("report");
+    const QStringList none{"--plugin", TAVRIK_OTHER_PLUGIN};
+    const QByteArray badIndex = "IndexedLineSet { coordIndex [0, 9, -1] }";
+    const QString warning = "Erroneous coordinate index: 9";
+    QTest::newRow("a warning, with a console") << QStringList() << badIndex << warning;
+    QTest::newRow("a warning, without a console") << none << badIndex << warning;
+    QTest::newRow("a read error") << QStringList()
+                                  << QByteArray("Texture2 { filename \"nowhere.png\" }")
+                                  << "nowhere.png";
+}
+
+void tst_Program::whatIsReportedReachesTheTerminalOnce()
+{
+    QFETCH(QStringList, plugins);
+    QFETCH(QByteArray, node);
+    QFETCH(QString, report);
+    const QString scene =
+        write("reporting.iv", "#Inventor V2.1 ascii\nSeparator { Cube { } " + node + " }\n");
+    const Result result =
+        run(plugins + QStringList{"--screenshot", m_folder.filePath("reporting.png"), scene});
+    QCOMPARE(result.code, 0);
+    QVERIFY2(result.errors.count(report) == 1, qPrintable(result.errors));
 }
 
 void tst_Program::aFailedScreenshotLeavesTheOldPicture()

@@ -4,7 +4,6 @@
 #include <QElapsedTimer>
 
 #include <cstdio>
-#include <memory>
 #include <thread>
 
 namespace {
@@ -33,8 +32,7 @@ struct ConsoleInbox::Door
 
 std::atomic<ConsoleInbox::Door*> ConsoleInbox::Door::first{nullptr};
 
-ConsoleInbox::ConsoleInbox(TvkConsole& console)
-    : m_console(console), m_door(freeDoor()), m_rest(endOfChain())
+ConsoleInbox::ConsoleInbox(TvkConsole& console) : m_console(console), m_door(freeDoor())
 {
     m_door.inbox = this;
     m_door.console = &console;
@@ -48,8 +46,9 @@ void ConsoleInbox::close()
     while (m_door.visitors != 0)
         std::this_thread::yield();
     QCoreApplication::sendPostedEvents(&m_console, ConsoleEvent::Type);
-    while (const std::unique_ptr<ConsoleEvent> event{nextInOrder()})
-        QCoreApplication::sendEvent(&m_console, event.get());
+    while (deliverNext()) {
+    }
+    endChain();
 }
 
 /** Consoles are made on the thread of the user interface only. */
@@ -62,13 +61,6 @@ ConsoleInbox::Door& ConsoleInbox::freeDoor()
     door->next = Door::first;
     Door::first = door;
     return *door;
-}
-
-/** Marks the end of a chain; that it is no null pointer tells an empty chain from none. */
-ConsoleEvent* ConsoleInbox::endOfChain()
-{
-    static ConsoleEvent end({}, 0);
-    return &end;
 }
 
 void ConsoleInbox::writeToStandardError(const QString& text)
@@ -95,19 +87,21 @@ void ConsoleInbox::send(const void* console, const QString& text, int kind)
 
 void ConsoleInbox::take(ConsoleEvent* event)
 {
-    ConsoleEvent* newest = m_chain;
+    ConsoleEvent* newest = m_newest;
     do {
-        if (!newest) {
-            event->isPosted = true;
-            if (++m_posted <= MostPosted) {
-                QCoreApplication::postEvent(&m_console, event);
-                return;
-            }
-            event->isPosted = false;
-            --m_posted;
+        if (newest)
+            continue;
+        event->isPosted = true;
+        if (++m_posted <= MostPosted) {
+            QCoreApplication::postEvent(&m_console, event);
+            return;
         }
-        event->next = newest ? newest : endOfChain();
-    } while (!m_chain.compare_exchange_weak(newest, event));
+        event->isPosted = false;
+        --m_posted;
+    } while (!m_newest.compare_exchange_weak(newest, event));
+    // From here on the next but one may be chained, and this one be handled as soon as it is
+    // linked.
+    (newest ? newest : &m_start)->next = event;
     if (!newest)
         QCoreApplication::postEvent(this, new QEvent(QEvent::User));
 }
@@ -137,44 +131,47 @@ bool ConsoleInbox::deliverSome()
     QElapsedTimer clock;
     clock.start();
     do {
-        for (int i = 0; i < EventsBetweenLooksAtTheClock; ++i) {
-            const std::unique_ptr<ConsoleEvent> event(nextInOrder());
-            if (!event)
-                return false;
-            QCoreApplication::sendEvent(&m_console, event.get());
-        }
+        for (int i = 0; i < EventsBetweenLooksAtTheClock; ++i)
+            if (!deliverNext())
+                return !endChain();
     } while (clock.elapsed() < SliceMilliseconds);
     return true;
 }
 
-ConsoleEvent* ConsoleInbox::nextInOrder()
+/** Whether there was one: none is there either while a thread has not linked what it has chained.
+ */
+bool ConsoleInbox::deliverNext()
 {
-    if (m_rest == endOfChain())
-        m_rest = takeChain();
-    if (m_rest == endOfChain())
-        return nullptr;
-    ConsoleEvent* const event = m_rest;
-    m_rest = event->next;
-    return event;
+    ConsoleEvent* const next = m_handled->next;
+    if (!next)
+        return false;
+    forgetHandled();
+    m_handled = next;
+    // The same thread may have posted one before it chained this.
+    if (m_posted != 0)
+        QCoreApplication::sendPostedEvents(&m_console, ConsoleEvent::Type);
+    // A copy, since whatever comes of it may ask for the next one.
+    ConsoleEvent message(next->text, next->kind);
+    QCoreApplication::sendEvent(&m_console, &message);
+    return true;
 }
 
-/** What has been chained since the last time, the oldest first; the end alone when messages may be
- *  posted one by one again. */
-ConsoleEvent* ConsoleInbox::takeChain()
+/** Once all is handled messages may be posted one by one again; false while there is more. */
+bool ConsoleInbox::endChain()
 {
-    ConsoleEvent* const end = endOfChain();
-    ConsoleEvent* newest = end;
-    if (!m_chain || m_chain.compare_exchange_strong(newest, nullptr))
-        return end;
-    newest = m_chain.exchange(end);
-    // A thread that found no chain has posted its message by now if it has chained a later one.
-    QCoreApplication::sendPostedEvents(&m_console, ConsoleEvent::Type);
-    ConsoleEvent* oldest = end;
-    while (newest != end) {
-        ConsoleEvent* const older = newest->next;
-        newest->next = oldest;
-        oldest = newest;
-        newest = older;
-    }
-    return oldest;
+    if (m_handled == &m_start)
+        return !m_newest;
+    m_start.next = nullptr;
+    ConsoleEvent* newest = m_handled;
+    if (!m_newest.compare_exchange_strong(newest, nullptr))
+        return false;
+    forgetHandled();
+    m_handled = &m_start;
+    return true;
+}
+
+void ConsoleInbox::forgetHandled()
+{
+    if (m_handled != &m_start)
+        delete m_handled;
 }

@@ -43,18 +43,19 @@ private:
     using ConsoleEvent = TvkConsole::ConsoleEvent;
 
     static Door& freeDoor();
-    static ConsoleEvent* endOfChain();
 
     void take(ConsoleEvent* event);
     bool deliverSome();
-    ConsoleEvent* nextInOrder();
-    ConsoleEvent* takeChain();
+    bool deliverNext();
+    bool endChain();
+    void forgetHandled();
 
     TvkConsole& m_console;
     Door& m_door;
     std::atomic<int> m_posted{0}; ///< events of their own that are not handled yet
-    /// The newest first; null while every message has an event of its own.
-    std::atomic<ConsoleEvent*> m_chain{nullptr};
-    ConsoleEvent* m_rest; ///< taken from the chain and not handled yet, the oldest first
+    // The chain leads from the oldest to the newest, so that it need not be turned round.
+    ConsoleEvent m_start{{}, 0};                  ///< no message: before the first of a chain
+    ConsoleEvent* m_handled = &m_start;           ///< the last one handled, owned if not m_start
+    std::atomic<ConsoleEvent*> m_newest{nullptr}; ///< null while each message is an own event
     QBasicTimer m_nextTurn;
 };

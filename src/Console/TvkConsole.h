@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QPointer>
 
+#include <atomic>
 #include <cstdint>
 #include <memory>
 
@@ -46,7 +47,7 @@ public:
         const std::int32_t kind; ///< of Kind; any other is an error
 
         // For the inbox, while the event is on its way.
-        ConsoleEvent* next = nullptr;
+        std::atomic<ConsoleEvent*> next{nullptr};
         bool isPosted = false;
     };
 

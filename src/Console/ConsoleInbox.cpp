@@ -11,7 +11,7 @@ namespace {
 using ConsoleEvent = TvkConsole::ConsoleEvent;
 
 constexpr int MostPosted = 64;
-constexpr int SliceMilliseconds = 4;
+constexpr int SliceMilliseconds = 2;
 constexpr int EventsBetweenLooksAtTheClock = 32;
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <map>
-#include <vector>
+#include <string>
 
 namespace {
 
@@ -22,7 +22,7 @@ private:
 struct ForeignLine
 {
     unsigned listener = 0;
-    std::string text;
+    StdStreamRedirector::Line text;
 };
 
 /** The unfinished lines of this thread, where it is not the listener's. */
@@ -71,15 +71,16 @@ void StdStreamRedirector::listen(Callback callback, void* data)
 {
     m_callback = callback;
     m_data = data;
-    m_thread = std::this_thread::get_id();
     ++m_listener;
     m_listening = true;
+    m_thread = std::this_thread::get_id();
 }
 
 void StdStreamRedirector::retire()
 {
     // Also when another library has replaced this buffer meanwhile: what was found is put back.
     m_stream->rdbuf(m_previous);
+    m_thread = std::thread::id();
     m_listening = false;
     while (m_visitors != 0)
         std::this_thread::yield();
@@ -87,10 +88,10 @@ void StdStreamRedirector::retire()
     retired().push_back(this);
 }
 
+/** Never while nobody listens: then no thread has the id. */
 bool StdStreamRedirector::isOwnThread() const
 {
-    return m_thread.load(std::memory_order_relaxed) == std::this_thread::get_id() &&
-           m_listening.load(std::memory_order_relaxed);
+    return m_thread.load(std::memory_order_relaxed) == std::this_thread::get_id();
 }
 
 StdStreamRedirector::int_type StdStreamRedirector::overflow(int_type character)
@@ -110,19 +111,27 @@ StdStreamRedirector::int_type StdStreamRedirector::overflow(int_type character)
     return character;
 }
 
-void StdStreamRedirector::put(char character, std::string& line)
+/** Short, since every character comes this way: there can be no buffer in front, which threads
+ * would have to share. */
+void StdStreamRedirector::put(char character, Line& line)
 {
-    if (character != '\n') {
+    if (character != '\n')
         line.push_back(character);
-        return;
-    }
-    std::string finished;
-    finished.swap(line);
-    // Kept on purpose: a line is announced with a count of 1, not with its length.
-    m_callback(finished.c_str(), 1, m_data);
+    else
+        finish(line);
 }
 
-std::string& StdStreamRedirector::lineOfThisThread()
+void StdStreamRedirector::finish(Line& line)
+{
+    // The listener may write a line itself.
+    Line finished;
+    finished.swap(line);
+    finished.push_back('\0');
+    // Kept on purpose: a line is announced with a count of 1, not with its length.
+    m_callback(finished.data(), 1, m_data);
+}
+
+StdStreamRedirector::Line& StdStreamRedirector::lineOfThisThread()
 {
     ForeignLine& line = t_lines[this];
     if (line.listener != m_listener)

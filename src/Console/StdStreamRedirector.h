@@ -5,8 +5,8 @@
 #include <memory>
 #include <ostream>
 #include <streambuf>
-#include <string>
 #include <thread>
+#include <vector>
 
 /**
  * The buffer of a standard output stream while somebody listens to it: what is written goes to a
@@ -22,6 +22,9 @@ class StdStreamRedirector final : public std::basic_streambuf<char>
 public:
     /** The text ends at its terminating zero, whatever the count says. */
     using Callback = void (*)(const char* text, std::int64_t count, void* data);
+
+    /** What is there of a line; no string, to whose every addition a terminating zero belongs. */
+    using Line = std::vector<char>;
 
     struct Retire
     {
@@ -50,16 +53,17 @@ private:
     void retire();
 
     bool isOwnThread() const;
-    std::string& lineOfThisThread();
-    void put(char character, std::string& line);
+    Line& lineOfThisThread();
+    void put(char character, Line& line);
+    void finish(Line& line);
 
     std::ostream* const m_stream;
     std::streambuf* const m_previous;
-    std::string m_line; ///< of the owner's thread
+    Line m_line; ///< of the owner's thread
     Callback m_callback = nullptr;
     void* m_data = nullptr;
 
-    std::atomic<std::thread::id> m_thread;
+    std::atomic<std::thread::id> m_thread; ///< the owner's, while somebody listens
     std::atomic<bool> m_listening{false};
     std::atomic<unsigned> m_listener{0}; ///< counts those who have listened
     std::atomic<int> m_visitors{0};      ///< other threads that are in here now

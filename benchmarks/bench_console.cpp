@@ -59,6 +59,7 @@ const QString& lineText(int number)
 {
     static const std::vector<QString> texts = [] {
         std::vector<QString> made;
+        made.reserve(s_burst);
         for (int i = 0; i < s_burst; ++i)
             made.push_back(
                 QStringLiteral("Coin warning in SoShape::render(): message number %1").arg(i));

@@ -37,9 +37,8 @@ void DvMFColorTable::getColorFromEditor(int row, int col)
     if (col != 0 || m_dialog || owner().isReadOnly() || !owner().isRow(row))
         return;
     m_dialogRow = row;
-    m_dialogColor = rowColor(row);
     // Waited for in no loop of its own: the editor may die meanwhile, and this table with it.
-    m_dialog = new QColorDialog(m_dialogColor, this);
+    m_dialog = new QColorDialog(rowColor(row), this);
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
     m_dialog->setWindowTitle(tr("color dialog"));
     m_dialog->open(this, SLOT(s_colorSelected(QColor)));
@@ -47,10 +46,9 @@ void DvMFColorTable::getColorFromEditor(int row, int col)
 
 void DvMFColorTable::s_colorSelected(const QColor& color)
 {
-    // The row may have gone while the dialog was open. A colour that was only confirmed is no other
-    // one, and would round the row's components.
-    if (color.isValid() && color.rgb() != m_dialogColor.rgb() && !owner().isReadOnly() &&
-        owner().isRow(m_dialogRow))
+    // The row may have gone while the dialog was open. Kept on purpose: a colour that was only
+    // confirmed is written like any other, in the dialog's eight bits a channel.
+    if (color.isValid() && !owner().isReadOnly() && owner().isRow(m_dialogRow))
         m_colorOwner.setColor(m_dialogRow, color);
 }
 

@@ -55,5 +55,4 @@ private:
     DvColorOwner& m_colorOwner;
     QPointer<QColorDialog> m_dialog; ///< while it is open
     int m_dialogRow = -1;
-    QColor m_dialogColor; ///< that the dialog began with
 };

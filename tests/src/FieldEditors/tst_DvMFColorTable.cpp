@@ -185,17 +185,24 @@ private slots:
         QCOMPARE(rig.host.services.count(), 0);
     }
 
-    void confirmingTheColourThatIsChangesNoBit()
+    void keepsWritingAColourThatIsOnlyConfirmed()
     {
         DvMFColorWidget editor;
         const TableRig rig(editor, "mfColor");
         rig.node->mfColor.set1Value(1, 0.333333343F, 2.0F, 1e-30F);
         TableRig::runSensors();
-        const ModalDialog dialog([](QDialog& opened) { opened.accept(); });
+        QColor confirmed;
+        const ModalDialog dialog([&confirmed](QDialog& opened) {
+            confirmed = static_cast<QColorDialog&>(opened).currentColor();
+            opened.accept();
+        });
         clickCell(rig, 1, 0);
         QVERIFY(dialog.wasUp());
-        QVERIFY(rig.node->mfColor[1] == SbColor(0.333333343F, 2.0F, 1e-30F));
-        QCOMPARE(rig.host.services.count(), 0);
+        QCOMPARE(rig.host.services.count(), 1);
+        const SbColor written = rig.node->mfColor[1];
+        QCOMPARE(written[0], float(confirmed.red() / 255.0));
+        QCOMPARE(written[1], 1.0F);
+        QCOMPARE(written[2], 0.0F);
     }
 
     void cancellingTheDialogChangesNothing()

@@ -112,6 +112,15 @@ void DvSFColorWidget::paintSwatch()
     m_colorDisp->setIcon(swatch);
 }
 
+/** Disabled with the frame, the dialog of a field that is no more would only hold the user up. */
+void DvSFColorWidget::fieldReleased()
+{
+    DvSFNumbersWidget::fieldReleased();
+    const QWidget* const parent = isFieldDying() ? frame() : nullptr;
+    if (auto* const dialog = parent ? parent->findChild<QColorDialog*>() : nullptr)
+        dialog->reject();
+}
+
 void DvSFColorWidget::getColorEditor()
 {
     const unsigned edited = fieldNumber();

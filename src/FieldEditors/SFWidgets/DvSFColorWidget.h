@@ -27,6 +27,7 @@ public slots:
 
 protected:
     void buildEditor(QHBoxLayout& editLayout) override;
+    void fieldReleased() override;
 
 private:
     void changeComponent(std::size_t index, const QString& text);

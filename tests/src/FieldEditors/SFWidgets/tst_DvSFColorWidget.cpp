@@ -305,12 +305,15 @@ private slots:
     {
         DvSFColorWidget editor;
         EditorRig rig(editor, "sfColor");
-        const ModalDialog dialog([&rig](QDialog& shown) {
+        bool isClosed = false;
+        const ModalDialog dialog([&rig, &isClosed](QDialog& shown) {
             rig.killNode();
+            isClosed = !shown.isVisible();
             choosing(Qt::green)(shown);
         });
         clickSwatch(rig);
         QVERIFY(dialog.wasUp());
+        QVERIFY(isClosed);
         QVERIFY(!editor.getWidget()->isEnabled());
         QCOMPARE(rig.host.services.count(), 0);
     }

@@ -1,13 +1,24 @@
 #include "FieldEditors/DvPopupFrame.h"
 
+#include "FieldEditors/DvLayoutConstants.h"
+
+#include <QGridLayout>
 #include <QHideEvent>
 #include <QScreen>
 
 #include <algorithm>
 
-DvPopupFrame::DvPopupFrame(QWidget* parent) : QFrame(parent, Qt::Popup)
+DvPopupFrame::DvPopupFrame(QWidget* parent)
+    : QFrame(parent, Qt::Popup), m_grid(new QGridLayout(this))
 {
+    setObjectName(QStringLiteral("m_popupFrame"));
     setFrameShape(QFrame::StyledPanel);
+    setMinimumSize(DvLayoutConstants::value("PopupFrameWidth"),
+                   DvLayoutConstants::value("PopupFrameHeight"));
+    m_grid->setObjectName(QStringLiteral("m_popupFrameLayout"));
+    const int margin = DvLayoutConstants::value("PopupLayoutMargin");
+    m_grid->setContentsMargins(margin, margin, margin, margin);
+    m_grid->setSpacing(DvLayoutConstants::value("PopupLayoutSpacing"));
 }
 
 void DvPopupFrame::popUpBeside(const QWidget& widget)

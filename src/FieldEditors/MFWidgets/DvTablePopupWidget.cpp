@@ -2,7 +2,6 @@
 
 #include "FieldEditors/DvButtonIcons.h"
 #include "FieldEditors/DvEditorParts.h"
-#include "FieldEditors/DvLayoutConstants.h"
 #include "FieldEditors/DvMFieldTable.h"
 #include "FieldEditors/DvPopupFrame.h"
 #include "FieldEditors/DvRealValidator.h"
@@ -40,18 +39,11 @@ void DvTablePopupWidget::createWidgets()
 
 void DvTablePopupWidget::buildPopup()
 {
-    m_popup = new DvPopupFrame(frame());
-    m_popup->setObjectName(QStringLiteral("m_popupFrame"));
-    m_popup->setMinimumSize(DvLayoutConstants::value("PopupFrameWidth"),
-                            DvLayoutConstants::value("PopupFrameHeight"));
-    auto* const grid = new QGridLayout(m_popup);
-    grid->setObjectName(QStringLiteral("m_popupFrameLayout"));
-    const int margin = DvLayoutConstants::value("PopupLayoutMargin");
-    grid->setContentsMargins(margin, margin, margin, margin);
-    grid->setSpacing(DvLayoutConstants::value("PopupLayoutSpacing"));
+    auto* const popup = new DvPopupFrame(frame());
+    m_popup = popup;
     for (int row = 0; row < m_rows; ++row) {
         for (int column = 0; column < m_columns; ++column)
-            buildPopupLine(*grid, row, column);
+            buildPopupLine(popup->grid(), row, column);
     }
     connect(m_popup, SIGNAL(aboutToClose()), SLOT(s_leavePopup()));
 }
